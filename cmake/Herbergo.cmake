@@ -39,8 +39,12 @@ function(herbergo_library name folder)
   target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE herbergo_flags)
 endfunction()
 
+# All programs of the house, without tests and benchmarks.
+add_custom_target(herbergo-programs)
+
 # herbergo_program(name main.cpp libraries...)
 function(herbergo_program name main)
   add_executable(${name} ${main})
+  add_dependencies(herbergo-programs ${name})
   target_link_libraries(${name} PRIVATE ${ARGN} herbergo_flags)
 endfunction()
