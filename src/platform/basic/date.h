@@ -1,18 +1,21 @@
 #pragma once
 
 #include <compare>
+#include <cstdint>
 
 namespace basic {
 
 /// A point in time as the engine stores it: days since 30.12.1899, the time of day as the fraction. Years 100 to 9999.
 /// Before day 0 the fraction still counts forward from midnight (-1.25 is 29.12.1899 06:00).
-/// Times are exact to the second; no time zone.
+/// Times are exact to the second; no time zone. A value outside the years or not finite can be held (it may come from a
+/// file), but asking for its day or time raises 6.
 class Date {
 public:
     constexpr Date() = default;
     constexpr explicit Date(double serial) : serial_(serial) {}
 
-    /// Calendar day; month and day outside their ranges roll over as in DateSerial (month 13 is January of the next year).
+    /// Raises 5 outside the years. Calendar day; month and day outside their ranges roll over as in DateSerial (month
+    /// 13 is January of the next year).
     [[nodiscard]] static Date fromYmd(int year, int month, int day);
     [[nodiscard]] static Date fromYmdHms(int year, int month, int day, int hour, int minute, int second);
 
@@ -42,6 +45,14 @@ struct DateParts {
 };
 
 [[nodiscard]] DateParts partsOf(Date date);
+
+/// Seconds since 30.12.1899 00:00, chronological also before that day (where the day number with its fraction is not).
+[[nodiscard]] std::int64_t secondsOf(Date date);
+/// The reverse of secondsOf; raises 5 outside the years.
+[[nodiscard]] Date fromSeconds(std::int64_t seconds);
+
+/// The local day by the machine's clock: the last resort of conversions that were not told what today is.
+[[nodiscard]] Date systemToday();
 
 [[nodiscard]] constexpr Date operator+(Date date, int days) { return Date(date.serial() + days); }
 [[nodiscard]] constexpr Date operator-(Date date, int days) { return Date(date.serial() - days); }

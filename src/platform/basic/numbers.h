@@ -4,7 +4,7 @@
 
 namespace basic {
 
-/// Half to even at the given number of decimals (0 to 15).
+/// Half to even on the value's 15 decimal digits, at the given number of decimals (0 to 15, others raise 5).
 [[nodiscard]] double Round(double value, int decimals = 0);
 /// Toward minus infinity.
 [[nodiscard]] double Int(double value);
@@ -12,8 +12,8 @@ namespace basic {
 [[nodiscard]] double Fix(double value);
 [[nodiscard]] int Sgn(double value);
 
-/// The operators of expressions. Null with anything is Null; text is read as a German number (13 if it is none); the result
-/// of integers beyond 32 bits is a Double. Division by zero raises 11, an overflowing power 6.
+/// The operators of expressions. Null with anything is Null; text is read as a German number (13 if it is none); the
+/// result of integers beyond 32 bits is a Double. Division by zero raises 11, a result out of range 6.
 [[nodiscard]] Value add(const Value& a, const Value& b);      ///< two texts are joined; date + number is a date
 [[nodiscard]] Value subtract(const Value& a, const Value& b); ///< date - date is a number of days
 [[nodiscard]] Value multiply(const Value& a, const Value& b);

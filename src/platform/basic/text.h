@@ -15,8 +15,8 @@ namespace basic {
 [[nodiscard]] int compareText(std::string_view a, std::string_view b);
 [[nodiscard]] inline bool equalText(std::string_view a, std::string_view b) { return compareText(a, b) == 0; }
 
-/// The fold by which names of tables and fields and the patterns of Like ignore case (full Unicode case folding, umlauts
-/// too; ß and ss stay different). ASCII input takes a fast path.
+/// The fold by which names of tables and fields and the patterns of Like ignore case (full Unicode case folding,
+/// umlauts too; ß and ss stay different). ASCII input takes a fast path.
 [[nodiscard]] std::string foldCase(std::string_view text);
 
 /// ß stays ß.
@@ -35,15 +35,19 @@ namespace basic {
 [[nodiscard]] std::string RTrim(std::string_view text);
 /// First position at or after start, 0 if none or the text is empty; an empty pattern gives start. Case is ignored.
 [[nodiscard]] std::int64_t InStr(std::int64_t start, std::string_view text, std::string_view pattern);
+/// First position of the last occurrence, 0 if none or the text is empty; an empty pattern gives Len.
 [[nodiscard]] std::int64_t InStrRev(std::string_view text, std::string_view pattern);
+/// Every occurrence, case counted; an empty `find` changes nothing.
 [[nodiscard]] std::string Replace(std::string_view text, std::string_view find, std::string_view with);
-/// The first character of `character`, count times.
+/// The first character of `character`, count times. A negative count or no character raises 5, more than 67,108,864
+/// characters raise 6.
 [[nodiscard]] std::string String(std::int64_t count, std::string_view character);
 [[nodiscard]] std::string Space(std::int64_t count);
 /// Windows-1252 code 0 to 255; others raise 5.
 [[nodiscard]] std::string Chr(std::int64_t code);
 /// Windows-1252 code of the first character (63 where it has none); the empty text raises 5.
 [[nodiscard]] std::int64_t Asc(std::string_view text);
+/// The empty text has no parts; an empty delimiter leaves the text whole.
 [[nodiscard]] std::vector<std::string> Split(std::string_view text, std::string_view delimiter);
 
 /// Sort key whose byte order is the order of compareText.

@@ -11,8 +11,8 @@
 
 namespace basic {
 
-/// What a field, a variable of the old kind or an expression can hold. Null is a value of its own: it is not the empty text.
-/// True counts as -1 wherever a number is wanted.
+/// What a field, a variable of the old kind or an expression can hold. Null is a value of its own: it is not the empty
+/// text. True counts as -1 wherever a number is wanted.
 class Value {
 public:
     using Storage = std::variant<std::monostate, bool, std::int64_t, double, Date, std::string>;
@@ -22,8 +22,7 @@ public:
     Value(std::nullptr_t) {}
     Value(std::same_as<bool> auto value) : storage_(value) {}
     template <std::integral T>
-        requires(!std::same_as<T, bool>)
-    Value(T value) : storage_(static_cast<std::int64_t>(value)) {}
+    requires(!std::same_as<T, bool>) Value(T value) : storage_(static_cast<std::int64_t>(value)) {}
     Value(double value) : storage_(value) {}
     Value(Date value) : storage_(value) {}
     Value(std::string value) : storage_(std::move(value)) {}
@@ -31,8 +30,7 @@ public:
     Value(const char* value) : storage_(std::string(value)) {}
     template <typename T>
     Value(const std::optional<T>& value) {
-        if (value)
-            *this = Value(*value);
+        if (value) *this = Value(*value);
     }
 
     [[nodiscard]] Kind kind() const { return static_cast<Kind>(storage_.index()); }
