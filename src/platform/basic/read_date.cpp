@@ -79,8 +79,7 @@ std::optional<Parts> readParts(std::string_view text) {
         if (!part || !takeSeparator(rest, hasName)) return std::nullopt;
         parts.part[static_cast<std::size_t>(parts.count++)] = *part;
         // "24.12." is a day of this year; any other separator at the end is a slip.
-        const bool endsInPoint = text.find_last_of('.') == text.find_last_not_of(blanks) && parts.count == 2;
-        if (rest.empty() && !isLast && !endsInPoint) return std::nullopt;
+        if (rest.empty() && !isLast && !(parts.count == 2 && withoutBlanks(text).ends_with('.'))) return std::nullopt;
     }
     return parts;
 }
