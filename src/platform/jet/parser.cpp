@@ -9,9 +9,6 @@ namespace jet {
 
 namespace {
 
-constexpr int maxLevels = 200;
-constexpr int maxHeight = 1000;
-
 std::vector<Word> wordsOf(const std::vector<Token>& tokens) {
     std::vector<Word> words;
     words.reserve(tokens.size());

@@ -24,6 +24,9 @@ public:
     Parsed parseAll();
 
 private:
+    static constexpr int maxLevels = 200;
+    static constexpr int maxHeight = 1000;
+
     // statements (parser.cpp)
     ast::Statement statement();
     ast::Update update();         ///< UPDATE source SET assignment {, assignment} [WHERE expression]

@@ -57,7 +57,8 @@ ast::SelectPtr Parser::bracketedQuery() {
 bool Parser::queryAhead() const {
     std::size_t at = at_ + 1;
     if (words_[at] == Word::Select) return true;
-    while (words_[at] == Word::Open && words_[at + 1] == Word::Open)
+    const std::size_t farthest = at + maxLevels; // deeper is too complex anyway
+    while (at < farthest && words_[at] == Word::Open && words_[at + 1] == Word::Open)
         ++at;
     if (words_[at] != Word::Open || words_[at + 1] != Word::Select) return false;
     const std::size_t behind = closing_[at] + 1;
