@@ -11,7 +11,6 @@
 namespace jet {
 
 class Connection;
-struct Compiled;
 
 enum class RecordsetType { Dynaset = 2, Snapshot = 4 };
 
@@ -44,7 +43,8 @@ private:
 /// RecordCount is known at once. Opens on the first row.
 class Recordset {
 public:
-    Recordset(std::shared_ptr<Connection> connection, std::shared_ptr<const Compiled> plan, RecordsetType type);
+    /// Reads the rows of a SELECT.
+    Recordset(std::shared_ptr<Connection> connection, std::string select, RecordsetType type);
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
     ~Recordset();
@@ -67,7 +67,7 @@ public:
     [[nodiscard]] ExprType FieldTypeAt(std::size_t position) const;
     /// For loops over many rows: the position once, then the values by position.
     [[nodiscard]] std::size_t Ordinal(std::string_view name) const;
-    [[nodiscard]] const Value& At(std::size_t position) const;
+    [[nodiscard]] const basic::Value& At(std::size_t position) const;
 
     /// Starts a new record: fields not assigned stay Null (False in a YESNO, the next number in a counter).
     void AddNew();
@@ -89,9 +89,11 @@ public:
     void Requery();
     void Close();
 
+    /// What a recordset keeps; private to the engine.
+    struct State;
+
 private:
     friend class RecordField;
-    struct State;
     std::unique_ptr<State> state_;
 };
 

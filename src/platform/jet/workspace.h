@@ -4,16 +4,19 @@
 #include "platform/services/clock.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
 namespace jet {
 
+struct WorkspaceSettings;
+
 /// Opens data files. All statements of its databases ask its clock.
 class Workspace {
 public:
     /// The clock must outlive the workspace and its databases.
-    explicit Workspace(const services::Clock& clock) : clock_(&clock) {}
+    explicit Workspace(const services::Clock& clock);
 
     /// `connect` is ";PWD=password" or empty. Raises 3024 (no file), 3044 (no such folder), 3343 (not a data file of
     /// the house; a real Jet file is named as such), 3049 (damaged), 3031 (password), 3051 (no permission). A missing
@@ -27,14 +30,14 @@ public:
 
     /// Called again and again while a file is locked by another process: milliseconds waited so far. Giving false ends
     /// the wait.
-    void setWaitCallback(std::function<bool(int)> callback) { waitCallback_ = std::move(callback); }
+    void setWaitCallback(std::function<bool(int)> callback);
     /// How long to wait for a locked file, in milliseconds; 15000 at first.
-    void setLockTimeout(int milliseconds) { lockTimeout_ = milliseconds; }
+    void setLockTimeout(int milliseconds);
+
+    [[nodiscard]] const std::shared_ptr<WorkspaceSettings>& settings() const { return settings_; }
 
 private:
-    const services::Clock* clock_;
-    std::function<bool(int)> waitCallback_;
-    int lockTimeout_ = 15000;
+    std::shared_ptr<WorkspaceSettings> settings_; ///< shared with its databases, open ones too
 };
 
 /// Rolls back unless Commit() was called. Holds the write lock on the home file of `homeTable` from the start; writing

@@ -1,0 +1,88 @@
+#include "platform/jet/row_block.h"
+
+#include "platform/jet/storage.h"
+
+namespace jet {
+
+namespace {
+
+void appendText(sqlite3_stmt* statement, int column, std::vector<Value>& values) {
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+    const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
+    values.emplace_back(text == nullptr ? std::string() : std::string(text, size));
+}
+
+/// A value whose type the translation could not tell: as the storage has it.
+void appendAny(sqlite3_stmt* statement, int column, int storedKind, std::vector<Value>& values) {
+    switch (storedKind) {
+    case SQLITE_INTEGER:
+        values.emplace_back(static_cast<std::int64_t>(sqlite3_column_int64(statement, column)));
+        break;
+    case SQLITE_FLOAT:
+        values.emplace_back(sqlite3_column_double(statement, column));
+        break;
+    default:
+        appendText(statement, column, values);
+    }
+}
+
+void appendValue(sqlite3_stmt* statement, int column, ExprType type, std::vector<Value>& values) {
+    const int storedKind = sqlite3_column_type(statement, column);
+    if (storedKind == SQLITE_NULL) {
+        values.emplace_back();
+        return;
+    }
+    switch (type) {
+    case ExprType::Boolean:
+        values.emplace_back(sqlite3_column_double(statement, column) != 0);
+        break;
+    case ExprType::Integer:
+    case ExprType::Long:
+        values.emplace_back(static_cast<std::int64_t>(sqlite3_column_int64(statement, column)));
+        break;
+    case ExprType::Double:
+        values.emplace_back(sqlite3_column_double(statement, column));
+        break;
+    case ExprType::Date:
+        values.emplace_back(Date(sqlite3_column_double(statement, column)));
+        break;
+    case ExprType::Text:
+        appendText(statement, column, values);
+        break;
+    case ExprType::Any:
+        appendAny(statement, column, storedKind, values);
+        break;
+    }
+}
+
+std::vector<int> identityColumns(const Compiled& compiled) {
+    std::vector<int> columns;
+    for (const BaseSource& source : compiled.sources)
+        columns.push_back(source.rowIdColumn);
+    return columns;
+}
+
+void appendIdentity(sqlite3_stmt* statement, int column, std::vector<std::int64_t>& identities) {
+    const bool found = column >= 0 && sqlite3_column_type(statement, column) != SQLITE_NULL;
+    identities.push_back(found ? sqlite3_column_int64(statement, column) : RowBlock::noIdentity);
+}
+
+} // namespace
+
+RowBlock readRows(sqlite3_stmt* statement, const Compiled& compiled) {
+    RowBlock rows;
+    const std::vector<int> identities = compiled.updatable ? identityColumns(compiled) : std::vector<int>();
+    rows.width = compiled.columns.size();
+    rows.identityWidth = identities.size();
+    while (stepRow(statement)) {
+        int column = 0;
+        for (const OutputColumn& output : compiled.columns)
+            appendValue(statement, column++, output.type, rows.values);
+        for (const int identity : identities)
+            appendIdentity(statement, identity, rows.identities);
+        ++rows.count;
+    }
+    return rows;
+}
+
+} // namespace jet
