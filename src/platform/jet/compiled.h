@@ -40,8 +40,11 @@ struct Compiled {
     std::vector<Slot> slots;
     std::vector<OutputColumn> columns; ///< of Rows; result columns behind them are identities
     std::vector<BaseSource> sources;   ///< of Rows, in the order of FROM
-    bool updatable = false;            ///< rows can be written through (no grouping, DISTINCT, UNION)
-    TablePtr target;                   ///< of Change: the table that is written
+    /// Result column (behind the visible ones) with the whole number by which the rows are to be sorted once they are
+    /// read: the first table's key, so that rows without an ORDER BY always come in one order. -1: they come sorted.
+    int sortColumn = -1;
+    bool updatable = false; ///< rows can be written through (no grouping, DISTINCT, UNION)
+    TablePtr target;        ///< of Change: the table that is written
     /// Literals that the SQL has built in: the plan serves only statements with the same ones.
     std::vector<std::size_t> structuralLiterals;
 };

@@ -1,0 +1,282 @@
+#include "platform/jet/emitter_impl.h"
+
+#include "platform/jet/overloaded.h"
+
+#include <algorithm>
+#include <array>
+
+namespace jet {
+
+namespace {
+
+const ast::JoinSource* asJoin(const ast::Source& source) { return std::get_if<ast::JoinSource>(&source.node); }
+
+bool isSimple(const ast::Select& select, const BoundCore& bound) {
+    return select.cores.size() == 1 && !bound.aggregated &&
+           select.cores.front().quantifier != ast::SelectCore::Quantifier::Distinct;
+}
+
+bool isUpdatable(const ast::Select& select, const BoundCore& bound) {
+    const auto canIdentify = [](const BoundSource& source) {
+        return source.table && !rowIdName(*source.table).empty();
+    };
+    return isSimple(select, bound) && !bound.sources.empty() &&
+           std::all_of(bound.sources.begin(), bound.sources.end(), canIdentify);
+}
+
+/// Is the order by the first table's key one whole number?
+bool hasNumberKey(const Table& table) {
+    if (table.keyColumns.empty()) return true;
+    const FieldType type = table.columns[static_cast<std::size_t>(table.keyColumns.front())].type;
+    return table.keyColumns.size() == 1 && (type == FieldType::Long || type == FieldType::Integer);
+}
+
+std::string joined(const std::vector<std::string>& parts) {
+    std::string all;
+    for (const std::string& part : parts)
+        all += (all.empty() ? "" : ", ") + part;
+    return all;
+}
+
+std::string numbered(const char* letter, std::size_t count) {
+    std::string all;
+    for (std::size_t i = 1; i <= count; ++i)
+        all += (i == 1 ? "" : ", ") + (letter + std::to_string(i));
+    return all;
+}
+
+} // namespace
+
+std::string rowIdName(const Table& table) {
+    static constexpr std::array<const char*, 3> names{"rowid", "_rowid_", "oid"};
+    for (const char* name : names)
+        if (!table.columnIndex(SqlName(name))) return name;
+    return {};
+}
+
+Compiled Emitter::rows(const ast::Select& query, bool includeIdentities) {
+    Compiled plan;
+    plan.kind = Compiled::Kind::Rows;
+    const BoundCore& first = binding_.core(&query.cores.front());
+    plan.updatable = isUpdatable(query, first);
+    for (std::size_t i = 0; i < first.items.size(); ++i) {
+        plan.columns.push_back(first.items[i].output);
+        plan.columns.back().type = columnType(query, i);
+    }
+    if (query.cores.size() == 1)
+        for (const BoundSource& source : first.sources)
+            plan.sources.push_back({source.alias, source.table, -1});
+    if (includeIdentities && plan.updatable)
+        for (std::size_t i = 0; i < plan.sources.size(); ++i)
+            plan.sources[i].rowIdColumn = static_cast<int>(plan.columns.size() + i);
+    plan.sql = select(query, Order::Reader, &plan);
+    plan.slots = slots_;
+    return plan;
+}
+
+ExprType Emitter::columnType(const ast::Select& select, std::size_t column) const {
+    ExprType type = ExprType::Any;
+    for (const ast::SelectCore& core : select.cores)
+        type = commonType(type, binding_.core(&core).items[column].output.type);
+    return type;
+}
+
+std::string Emitter::select(const ast::Select& query, Order order, Compiled* plan) {
+    if (query.cores.size() == 1) return core(query, 0, order, plan);
+    std::string sql;
+    for (std::size_t i = 0; i < query.cores.size(); ++i) {
+        if (i > 0) sql += query.unionAll[i - 1] ? " UNION ALL " : " UNION ";
+        sql += core(query, i, Order::Any, nullptr);
+    }
+    return sql + orderBy(query, {});
+}
+
+std::string Emitter::core(const ast::Select& query, std::size_t index, Order order, Compiled* plan) {
+    const ast::SelectCore& core = query.cores[index];
+    const BoundCore& bound = binding_.core(&core);
+    scopes_.push_back(&bound);
+    const bool isUnion = query.cores.size() > 1;
+    const std::vector<std::string> key =
+        isSimple(query, bound) && order != Order::Any ? keyOf(bound) : std::vector<std::string>{};
+    // A whole table comes in key order by itself; where a condition picks rows by another index, sorting numbers
+    // afterwards is cheaper than sorting rows here.
+    const bool sortedByReader = order == Order::Reader && plan && !key.empty() && query.orderBy.empty() && !core.top &&
+                                (core.where || asJoin(*core.from)) && hasNumberKey(*bound.sources.front().table);
+
+    std::string sql = core.quantifier == ast::SelectCore::Quantifier::Distinct ? "SELECT DISTINCT " : "SELECT ";
+    sql += columnList(query, index);
+    if (plan) sql += hiddenColumns(bound, *plan);
+    if (sortedByReader) {
+        std::size_t hidden = plan->columns.size();
+        for (const BoundSource& source : bound.sources)
+            hidden += plan->sources.front().rowIdColumn >= 0 && source.table ? 1U : 0U;
+        plan->sortColumn = static_cast<int>(hidden);
+        sql += ", " + key.front() + " AS s";
+    }
+    if (core.top && !isUnion)
+        for (std::size_t k = 0; k < query.orderBy.size(); ++k)
+            sql += ", " + orderKey(query.orderBy[k], query) + " AS k" + std::to_string(k + 1);
+    sql += tail(core);
+    if (core.top) {
+        const std::vector<std::string> limitKey = isSimple(query, bound) ? keyOf(bound) : std::vector<std::string>{};
+        if (isUnion || query.orderBy.empty()) sql += limitKey.empty() ? "" : " ORDER BY " + joined(limitKey);
+        sql = topOf(query, sql,
+                    plan && plan->updatable && plan->sources.front().rowIdColumn >= 0 ? plan->sources.size() : 0);
+    } else if (!isUnion) {
+        sql += orderBy(query, sortedByReader ? std::vector<std::string>{} : key);
+    }
+    scopes_.pop_back();
+    return sql;
+}
+
+std::string Emitter::columnList(const ast::Select& query, std::size_t index) {
+    const ast::SelectCore& core = query.cores[index];
+    const BoundCore& bound = *scopes_.back();
+    const bool compares = query.cores.size() > 1 || core.quantifier == ast::SelectCore::Quantifier::Distinct;
+    std::string list;
+    for (std::size_t i = 0; i < bound.items.size(); ++i) {
+        const BoundItem& item = bound.items[i];
+        const ExprType type = columnType(query, i);
+        std::string sql = item.expr ? valueAs(*item.expr, type)
+                                    : field(bound.sources[static_cast<std::size_t>(item.source)], item.column);
+        if (compares && type == ExprType::Text) sql += " COLLATE DE";
+        list += (list.empty() ? "" : ", ") + sql + " AS c" + std::to_string(i + 1);
+    }
+    return list;
+}
+
+std::string Emitter::hiddenColumns(const BoundCore& bound, Compiled& plan) const {
+    std::string sql;
+    if (!plan.updatable || plan.sources.empty() || plan.sources.front().rowIdColumn < 0) return sql;
+    for (std::size_t i = 0; i < bound.sources.size(); ++i)
+        sql += ", t" + std::to_string(bound.sources[i].number) + "." + rowIdName(*bound.sources[i].table) + " AS h" +
+               std::to_string(i + 1);
+    return sql;
+}
+
+std::string Emitter::tail(const ast::SelectCore& core) {
+    std::string sql;
+    if (core.from) sql += " FROM " + source(*core.from);
+    if (core.where) sql += " WHERE " + condition(*core.where);
+    return sql + grouping(core);
+}
+
+std::string Emitter::grouping(const ast::SelectCore& core) {
+    const BoundCore& bound = *scopes_.back();
+    std::vector<std::string> keys;
+    for (const ast::ExprPtr& key : core.groupBy)
+        keys.push_back(comparable(*key));
+    if (core.quantifier == ast::SelectCore::Quantifier::DistinctRow && !bound.aggregated) {
+        // DISTINCTROW drops rows that differ only in tables of which nothing is shown.
+        std::vector<bool> shown(bound.sources.size(), false);
+        for (const BoundItem& item : bound.items)
+            if (item.output.source >= 0) shown[static_cast<std::size_t>(item.output.source)] = true;
+        const bool all = std::all_of(shown.begin(), shown.end(), [](bool s) { return s; });
+        for (std::size_t i = 0; i < shown.size() && !all; ++i)
+            if (shown[i])
+                keys.push_back("t" + std::to_string(bound.sources[i].number) + "." +
+                               rowIdName(*bound.sources[i].table));
+    }
+    std::string sql = keys.empty() ? "" : " GROUP BY " + joined(keys);
+    if (core.having) sql += " HAVING " + condition(*core.having);
+    return sql;
+}
+
+std::string Emitter::orderKey(const ast::OrderItem& item, const ast::Select& query) {
+    const BoundCore& bound = *scopes_.back();
+    std::string sql;
+    int position = item.position;
+    if (item.expr) {
+        const auto* ref = std::get_if<ast::FieldRef>(&item.expr->node);
+        if (!ref || ref->aliasItem < 0) return comparable(*item.expr);
+        position = ref->aliasItem + 1;
+    }
+    const auto index = static_cast<std::size_t>(position - 1);
+    const BoundItem& chosen = bound.items[index];
+    const ast::SelectCore& core = query.cores.front();
+    if (core.top && query.cores.size() == 1) {
+        if (chosen.expr) return comparable(*chosen.expr);
+        return field(bound.sources[static_cast<std::size_t>(chosen.source)], chosen.column);
+    }
+    sql = std::to_string(position);
+    return columnType(query, index) == ExprType::Text ? sql + " COLLATE DE" : sql;
+}
+
+/// Rows that the statement's own keys leave equal come in the order of the first table's key.
+std::string Emitter::orderBy(const ast::Select& query, const std::vector<std::string>& key) {
+    std::vector<std::string> keys;
+    for (const ast::OrderItem& item : query.orderBy)
+        keys.push_back(orderKey(item, query) + (item.descending ? " DESC" : ""));
+    keys.insert(keys.end(), key.begin(), key.end());
+    return keys.empty() ? "" : " ORDER BY " + joined(keys);
+}
+
+/// TOP takes the rows up to the n-th and all that its ORDER BY leaves equal to that one.
+std::string Emitter::topOf(const ast::Select& query, const std::string& body, std::size_t hidden) {
+    const ast::SelectCore& core = *std::find_if(query.cores.begin(), query.cores.end(),
+                                                [](const ast::SelectCore& c) { return c.top.has_value(); });
+    const std::string count = std::to_string(core.top->count);
+    if (query.cores.size() > 1 || query.orderBy.empty()) {
+        const std::string limit =
+            core.top->percent ? "(SELECT (count(*) * " + count + " + 99) / 100 FROM (" + body + "))" : count;
+        return "SELECT * FROM (" + body + " LIMIT " + limit + ")";
+    }
+    std::vector<std::string> keys;
+    for (std::size_t k = 0; k < query.orderBy.size(); ++k)
+        keys.push_back("k" + std::to_string(k + 1) + (query.orderBy[k].descending ? " DESC" : ""));
+    const std::string wanted = core.top->percent ? "(total * " + count + " + 99) / 100" : count;
+    std::string columns = numbered("c", scopes_.back()->items.size());
+    if (hidden > 0) columns += ", " + numbered("h", hidden);
+    return "SELECT " + columns + " FROM (SELECT *, rank() OVER (ORDER BY " + joined(keys) +
+           ") AS place, count(*) OVER () AS total FROM (" + body + ")) WHERE place <= " + wanted + " ORDER BY place" +
+           (hidden > 0 ? ", h1" : "");
+}
+
+/// The key of the first table in the storage's SQL; its identity where it has no key. Nothing for a derived table.
+std::vector<std::string> Emitter::keyOf(const BoundCore& bound) const {
+    if (bound.sources.empty() || !bound.sources.front().table) return {};
+    const BoundSource& first = bound.sources.front();
+    if (first.table->keyColumns.empty()) {
+        const std::string rowId = rowIdName(*first.table);
+        return rowId.empty() ? std::vector<std::string>{}
+                             : std::vector{"t" + std::to_string(first.number) + "." + rowId};
+    }
+    std::vector<std::string> key;
+    for (const int column : first.table->keyColumns)
+        key.push_back(field(first, column));
+    return key;
+}
+
+std::string Emitter::source(const ast::Source& source) {
+    const std::vector<BoundSource>& sources = scopes_.back()->sources;
+    return std::visit(Overloaded{[&](const ast::TableSource& t) {
+                                     const BoundSource& bound = sources[static_cast<std::size_t>(t.index)];
+                                     return bound.table->qualifiedName() + " AS t" + std::to_string(bound.number);
+                                 },
+                                 [&](const ast::DerivedSource& d) {
+                                     const BoundSource& bound = sources[static_cast<std::size_t>(d.index)];
+                                     return "(" + select(*d.select, Order::Any, nullptr) + ") AS t" +
+                                            std::to_string(bound.number);
+                                 },
+                                 [&](const ast::JoinSource& j) { return join(j); }},
+                      source.node);
+}
+
+std::string Emitter::joinOperand(const ast::Source& operand) {
+    return asJoin(operand) ? "(" + source(operand) + ")" : source(operand);
+}
+
+/// A join's left side may be a join of its own without brackets, so the side that is one goes left; RIGHT becomes LEFT
+/// with the sides changed.
+std::string Emitter::join(const ast::JoinSource& join) {
+    using Kind = ast::JoinSource::Kind;
+    const bool inner = join.kind == Kind::Inner || join.kind == Kind::Cross;
+    const bool swap = join.kind == Kind::Right || (inner && asJoin(*join.right) && !asJoin(*join.left));
+    const ast::Source& left = swap ? *join.right : *join.left;
+    const ast::Source& right = swap ? *join.left : *join.right;
+    std::string sql = source(left) + (inner ? " INNER JOIN " : " LEFT JOIN ") + joinOperand(right);
+    if (join.on) sql += " ON " + condition(*join.on);
+    return sql;
+}
+
+} // namespace jet
