@@ -219,6 +219,9 @@ bool comesBefore(std::string_view name, std::string_view folded) {
                                         [](char a, char b) { return lower(a) < lower(b); });
 }
 
+static_assert(std::is_sorted(table.begin(), table.end(),
+                             [](const Function& a, const Function& b) { return comesBefore(a.name, b.name); }));
+
 } // namespace
 
 const Function* findFunction(const SqlName& name) {
