@@ -214,7 +214,7 @@ constexpr auto table = std::to_array<Function>({
 
 constexpr char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-bool comesBefore(std::string_view name, std::string_view folded) {
+constexpr bool comesBefore(std::string_view name, std::string_view folded) {
     return std::lexicographical_compare(name.begin(), name.end(), folded.begin(), folded.end(),
                                         [](char a, char b) { return lower(a) < lower(b); });
 }
