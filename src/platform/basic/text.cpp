@@ -184,7 +184,7 @@ bool isValidText(std::string_view text) {
 std::string normalised(std::string_view text) {
     if (isAscii(text)) return std::string(text);
     // Replaces what is ill-formed, which the normaliser would not define.
-    const std::string valid = mapCharacters(text, [](char32_t character) { return character; });
+    std::string valid = mapCharacters(text, [](char32_t character) { return character; });
     UErrorCode status = U_ZERO_ERROR;
     const icu::Normalizer2* composer = icu::Normalizer2::getNFCInstance(status);
     if (U_FAILURE(status)) return valid;

@@ -10,8 +10,7 @@ std::string quoted(std::string_view name) {
     std::string result = "\"";
     for (const char c : name) {
         result += c;
-        if (c == '"')
-            result += c;
+        if (c == '"') result += c;
     }
     return result += '"';
 }
