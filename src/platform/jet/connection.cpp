@@ -31,7 +31,7 @@ double clockValue(Slot::Kind kind, Date now) {
 Connection::Connection(std::shared_ptr<const WorkspaceSettings> settings, const OpenOptions& options)
     : settings_(std::move(settings)), path_(absolutePath(options.path)) {
     requireReadableFile(path_);
-    storage_ = openStorage(path_, options.readOnly ? FileMode::ReadOnly : FileMode::ReadWrite);
+    storage_ = openStorage(path_, options.readOnly ? FileMode::ReadOnly : FileMode::ReadWrite, *settings_->clock);
     sqlite3_busy_handler(storage_.get(), &Connection::onBusy, this);
     try {
         openChecked(options);

@@ -20,7 +20,7 @@ constexpr std::int64_t houseMark = 0x48425247;
 
 constexpr std::string_view storageMagic{"SQLite format 3\0", 16};
 
-void configure(sqlite3* storage) {
+void configure(sqlite3* storage, const services::Clock& clock) {
     sqlite3_extended_result_codes(storage, 1);
     sqlite3_db_config(storage, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(storage, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
@@ -28,7 +28,7 @@ void configure(sqlite3* storage) {
     sqlite3_db_config(storage, SQLITE_DBCONFIG_ENABLE_QPSG, 1, nullptr);
     sqlite3_db_config(storage, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(storage, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
-    registerFunctions(storage);
+    registerFunctions(storage, clock);
     for (const char* pragma : {"PRAGMA temp_store=MEMORY", "PRAGMA foreign_keys=OFF", "PRAGMA cache_size=-16000"})
         run(storage, pragma);
 }
@@ -131,7 +131,7 @@ void requireFreePath(const std::string& path) {
     if (fs::symlink_status(path, problem).type() != fs::file_type::not_found) raise(ErrorNumber::FileExists, path);
 }
 
-StorageHandle openStorage(const std::string& path, FileMode mode) {
+StorageHandle openStorage(const std::string& path, FileMode mode, const services::Clock& clock) {
     sqlite3* opened = nullptr;
     const int access = mode == FileMode::ReadOnly ? SQLITE_OPEN_READONLY
                        : mode == FileMode::Create ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE
@@ -140,7 +140,7 @@ StorageHandle openStorage(const std::string& path, FileMode mode) {
     const int result = sqlite3_open_v2(fileUri(path, mode).c_str(), &opened, flags, nullptr);
     StorageHandle storage(opened);
     if (result != SQLITE_OK) raise(ErrorNumber::CannotOpen, path);
-    configure(storage.get());
+    configure(storage.get(), clock);
     return storage;
 }
 

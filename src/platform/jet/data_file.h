@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/jet/storage.h"
+#include "platform/services/clock.h"
 
 #include <string>
 #include <string_view>
@@ -20,8 +21,9 @@ void requireReadableFile(const std::string& path);
 /// Raises 3044 when the folder is missing, 3204 when something is there already.
 void requireFreePath(const std::string& path);
 
-/// Opens the storage on a file with the settings of the house; says nothing yet about what is in it.
-[[nodiscard]] StorageHandle openStorage(const std::string& path, FileMode mode);
+/// Opens the storage on a file with the settings of the house; says nothing yet about what is in it. The clock must
+/// outlive it.
+[[nodiscard]] StorageHandle openStorage(const std::string& path, FileMode mode, const services::Clock& clock);
 
 /// The house's own mark in the file's header.
 void markDataFile(sqlite3* storage);

@@ -45,10 +45,8 @@ bool isForbiddenInName(char c) {
 
 void requireColumnName(std::string_view name) {
     requireTableName(name);
-    // The storage's own name for the identity of a row.
-    const SqlName folded(name);
-    if (folded.folded() == "rowid" || folded.folded() == "_rowid_" || folded.folded() == "oid")
-        raise(ErrorNumber::InvalidName, name);
+    // The storage's own name for the identity of a row, by which recordsets write.
+    if (SqlName(name).folded() == "_rowid_") raise(ErrorNumber::InvalidName, name);
 }
 
 int textSize(const FieldDef& field) {

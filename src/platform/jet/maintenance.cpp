@@ -90,7 +90,7 @@ void BackupDatabase(const Workspace& workspace, const std::string& from, const s
     UnfinishedFile target(absolutePath(to));
     const std::shared_ptr<Connection> connection = openAlone(workspace, from, connect);
     {
-        const StorageHandle copy = openStorage(target.path(), FileMode::Create);
+        const StorageHandle copy = openStorage(target.path(), FileMode::Create, *workspace.settings()->clock);
         copyAll(connection->storage(), copy.get(), workspace.settings()->lockTimeout);
     }
     connection->close();

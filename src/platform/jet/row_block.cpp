@@ -2,6 +2,10 @@
 
 #include "platform/jet/storage.h"
 
+#include <algorithm>
+#include <iterator>
+#include <numeric>
+
 namespace jet {
 
 namespace {
@@ -62,15 +66,37 @@ std::vector<int> identityColumns(const Compiled& compiled) {
     return columns;
 }
 
-void appendIdentity(sqlite3_stmt* statement, int column, std::vector<std::int64_t>& identities) {
+std::int64_t wholeNumber(sqlite3_stmt* statement, int column) {
     const bool found = column >= 0 && sqlite3_column_type(statement, column) != SQLITE_NULL;
-    identities.push_back(found ? sqlite3_column_int64(statement, column) : RowBlock::noIdentity);
+    return found ? sqlite3_column_int64(statement, column) : RowBlock::noIdentity;
+}
+
+template <typename T>
+std::vector<T> reordered(std::vector<T>& values, std::size_t width, const std::vector<std::size_t>& order) {
+    std::vector<T> result;
+    result.reserve(values.size());
+    for (const std::size_t row : order) {
+        const auto first = values.begin() + static_cast<std::ptrdiff_t>(row * width);
+        std::move(first, first + static_cast<std::ptrdiff_t>(width), std::back_inserter(result));
+    }
+    return result;
+}
+
+/// Rows by their sort keys; those without one come first, as Null sorts.
+void sortRows(RowBlock& rows, const std::vector<std::int64_t>& keys) {
+    if (std::ranges::is_sorted(keys)) return;
+    std::vector<std::size_t> order(rows.count);
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::stable_sort(order, {}, [&](std::size_t row) { return keys[row]; });
+    rows.values = reordered(rows.values, rows.width, order);
+    rows.identities = reordered(rows.identities, rows.identityWidth, order);
 }
 
 } // namespace
 
 RowBlock readRows(sqlite3_stmt* statement, const Compiled& compiled) {
     RowBlock rows;
+    std::vector<std::int64_t> sortKeys;
     const std::vector<int> identities = compiled.updatable ? identityColumns(compiled) : std::vector<int>();
     rows.width = compiled.columns.size();
     rows.identityWidth = identities.size();
@@ -79,9 +105,11 @@ RowBlock readRows(sqlite3_stmt* statement, const Compiled& compiled) {
         for (const OutputColumn& output : compiled.columns)
             appendValue(statement, column++, output.type, rows.values);
         for (const int identity : identities)
-            appendIdentity(statement, identity, rows.identities);
+            rows.identities.push_back(wholeNumber(statement, identity));
+        if (compiled.sortColumn >= 0) sortKeys.push_back(wholeNumber(statement, compiled.sortColumn));
         ++rows.count;
     }
+    sortRows(rows, sortKeys);
     return rows;
 }
 

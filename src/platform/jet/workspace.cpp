@@ -22,9 +22,9 @@ void writeEmptyFile(sqlite3* storage, std::string_view password) {
     run(storage, "COMMIT");
 }
 
-void createFile(const std::string& path, std::string_view password) {
+void createFile(const std::string& path, std::string_view password, const services::Clock& clock) {
     UnfinishedFile file(path);
-    writeEmptyFile(openStorage(file.path(), FileMode::Create).get(), password);
+    writeEmptyFile(openStorage(file.path(), FileMode::Create, clock).get(), password);
     file.publish();
 }
 
@@ -57,7 +57,7 @@ void Workspace::Reopen(Database& database, const std::string& path, std::string_
 }
 
 Database Workspace::CreateDatabase(const std::string& path, std::string_view connect) const {
-    createFile(absolutePath(path), readConnect(connect).password);
+    createFile(absolutePath(path), readConnect(connect).password, *settings_->clock);
     return OpenDatabase(path, false, false, connect);
 }
 
