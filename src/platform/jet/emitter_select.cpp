@@ -183,8 +183,6 @@ std::string Emitter::grouping(const ast::SelectCore& core) {
 }
 
 std::string Emitter::orderKey(const ast::OrderItem& item, const ast::Select& query) {
-    const BoundCore& bound = *scopes_.back();
-    std::string sql;
     int position = item.position;
     if (item.expr) {
         const auto* ref = std::get_if<ast::FieldRef>(&item.expr->node);

@@ -31,6 +31,6 @@ TEST_P(Dialect, GivesTheRowsItMust) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, Dialect, testing::ValuesIn(support::caseFiles("dialect")),
-                         [](const auto& info) { return std::filesystem::path(info.param).stem().string(); });
+                         [](const auto& file) { return std::filesystem::path(file.param).stem().string(); });
 
 } // namespace
