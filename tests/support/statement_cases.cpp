@@ -25,8 +25,7 @@ std::vector<std::string> split(const std::string& text, char separator) {
 /// The key of a "key: value" line; nothing for a row.
 std::optional<std::string> keyOf(const std::string& line) {
     for (const char* key : {"case", "file", "order", "prepare", "sql", "rows", "affected", "check", "error"})
-        if (line.starts_with(std::string(key) + ":"))
-            return key;
+        if (line.starts_with(std::string(key) + ":")) return key;
     return std::nullopt;
 }
 
@@ -36,8 +35,7 @@ public:
 
     std::vector<StatementCase> read() {
         std::ifstream stream(path_);
-        if (!stream)
-            fail("cannot be read");
+        if (!stream) fail("cannot be read");
         for (std::string line; std::getline(stream, line);) {
             ++line_;
             take(line);
@@ -57,16 +55,13 @@ private:
         }
         const std::optional<std::string> key = keyOf(line);
         if (!key) {
-            if (line.starts_with("#") && !inRows_)
-                return;
-            if (!inRows_)
-                fail("neither a key nor a row: " + line);
+            if (line.starts_with("#") && !inRows_) return;
+            if (!inRows_) fail("neither a key nor a row: " + line);
             cases_.back().expected.back().rows.push_back(line);
             return;
         }
         std::string value = line.substr(key->size() + 1);
-        if (value.starts_with(" "))
-            value.erase(0, 1);
+        if (value.starts_with(" ")) value.erase(0, 1);
         inRows_ = false;
         assign(*key, value);
     }
@@ -78,8 +73,7 @@ private:
             cases_.back().line = line_;
             return;
         }
-        if (cases_.empty())
-            fail("no case yet");
+        if (cases_.empty()) fail("no case yet");
         StatementCase& one = cases_.back();
         if (key == "file")
             one.file = value;
@@ -181,21 +175,18 @@ void runStatementCase(const StatementCase& one, jet::Database& database) {
 std::vector<std::string> caseFiles(const std::string& folder) {
     std::vector<std::string> files;
     for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(HERBERGO_TEST_DATA) / folder))
-        if (entry.path().extension() == ".txt")
-            files.push_back(entry.path().string());
+        if (entry.path().extension() == ".txt") files.push_back(entry.path().string());
     std::sort(files.begin(), files.end());
     return files;
 }
 
 void runScript(const std::string& path, jet::Database& database) {
     std::ifstream stream(path);
-    if (!stream)
-        throw std::runtime_error(path + " cannot be read");
+    if (!stream) throw std::runtime_error(path + " cannot be read");
     int number = 0;
     for (std::string line; std::getline(stream, line);) {
         ++number;
-        if (line.empty() || line.starts_with("--"))
-            continue;
+        if (line.empty() || line.starts_with("--")) continue;
         try {
             database.Execute(line);
         } catch (const jet::Error& error) {

@@ -39,6 +39,7 @@ Compiled Emitter::change(const ast::Update& update) {
     Compiled plan = planOfChange();
     const BoundCore& bound = binding_.core(&update);
     scopes_.push_back(&bound);
+    findBracketed(*update.from, bound, false);
     const BoundSource& target = bound.sources[static_cast<std::size_t>(binding_.targetSource)];
     const bool joins = bound.sources.size() > 1;
     std::string set;
@@ -56,8 +57,8 @@ Compiled Emitter::change(const ast::Update& update) {
     const std::string alias = "t" + std::to_string(target.number);
     plan.sql = "UPDATE OR IGNORE " + target.table->qualifiedName() + " AS ";
     if (joins)
-        plan.sql += "u SET " + set + " FROM (SELECT " + alias + "." + rowIdName(*target.table) + " AS r" + values +
-                    " FROM " + source(*update.from) + where + ") AS s WHERE u." + rowIdName(*target.table) + " = s.r";
+        plan.sql += "u SET " + set + " FROM (SELECT " + identity(target) + " AS r" + values + " FROM " +
+                    source(*update.from) + where + ") AS s WHERE u." + rowIdName(*target.table) + " = s.r";
     else
         plan.sql += alias + " SET " + set + where;
     scopes_.pop_back();
@@ -69,6 +70,7 @@ Compiled Emitter::change(const ast::Delete& remove) {
     Compiled plan = planOfChange();
     const BoundCore& bound = binding_.core(&remove);
     scopes_.push_back(&bound);
+    findBracketed(*remove.from, bound, false);
     const BoundSource& target = bound.sources[static_cast<std::size_t>(binding_.targetSource)];
     const std::string where = remove.where ? " WHERE " + condition(*remove.where) : "";
     const std::string alias = "t" + std::to_string(target.number);
@@ -76,7 +78,7 @@ Compiled Emitter::change(const ast::Delete& remove) {
     plan.sql = "DELETE FROM " + target.table->qualifiedName();
     if (bound.sources.size() > 1)
         plan.sql +=
-            " WHERE " + rowId + " IN (SELECT " + alias + "." + rowId + " FROM " + source(*remove.from) + where + ")";
+            " WHERE " + rowId + " IN (SELECT " + identity(target) + " FROM " + source(*remove.from) + where + ")";
     else
         plan.sql += " AS " + alias + where;
     scopes_.pop_back();

@@ -30,6 +30,9 @@ private:
     std::string orderKey(const ast::OrderItem& item, const ast::Select& select);
     std::string topOf(const ast::Select& select, const std::string& body, std::size_t hidden);
     [[nodiscard]] std::vector<std::string> keyOf(const BoundCore& bound) const;
+    void findBracketed(const ast::Source& source, const BoundCore& bound, bool inside);
+    [[nodiscard]] std::string identity(const BoundSource& source) const;
+    [[nodiscard]] std::string tableSource(const BoundSource& source) const;
     std::string source(const ast::Source& source);
     std::string join(const ast::JoinSource& join);
     std::string joinOperand(const ast::Source& source);
@@ -65,6 +68,7 @@ private:
     const Binding& binding_;
     std::vector<const BoundCore*> scopes_;
     std::vector<Slot> slots_;
+    std::vector<int> bracketed_; ///< numbers of the tables inside brackets of a join
 };
 
 /// The letter by which a registered function knows the type of an argument.

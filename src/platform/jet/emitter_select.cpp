@@ -95,6 +95,7 @@ std::string Emitter::core(const ast::Select& query, std::size_t index, Order ord
     const ast::SelectCore& core = query.cores[index];
     const BoundCore& bound = binding_.core(&core);
     scopes_.push_back(&bound);
+    if (core.from) findBracketed(*core.from, bound, false);
     const bool isUnion = query.cores.size() > 1;
     const std::vector<std::string> key =
         isSimple(query, bound) && order != Order::Any ? keyOf(bound) : std::vector<std::string>{};
@@ -149,8 +150,7 @@ std::string Emitter::hiddenColumns(const BoundCore& bound, Compiled& plan) const
     std::string sql;
     if (!plan.updatable || plan.sources.empty() || plan.sources.front().rowIdColumn < 0) return sql;
     for (std::size_t i = 0; i < bound.sources.size(); ++i)
-        sql += ", t" + std::to_string(bound.sources[i].number) + "." + rowIdName(*bound.sources[i].table) + " AS h" +
-               std::to_string(i + 1);
+        sql += ", " + identity(bound.sources[i]) + " AS h" + std::to_string(i + 1);
     return sql;
 }
 
@@ -173,9 +173,7 @@ std::string Emitter::grouping(const ast::SelectCore& core) {
             if (item.output.source >= 0) shown[static_cast<std::size_t>(item.output.source)] = true;
         const bool all = std::all_of(shown.begin(), shown.end(), [](bool s) { return s; });
         for (std::size_t i = 0; i < shown.size() && !all; ++i)
-            if (shown[i])
-                keys.push_back("t" + std::to_string(bound.sources[i].number) + "." +
-                               rowIdName(*bound.sources[i].table));
+            if (shown[i]) keys.push_back(identity(bound.sources[i]));
     }
     std::string sql = keys.empty() ? "" : " GROUP BY " + joined(keys);
     if (core.having) sql += " HAVING " + condition(*core.having);
@@ -190,14 +188,14 @@ std::string Emitter::orderKey(const ast::OrderItem& item, const ast::Select& que
         position = ref->aliasItem + 1;
     }
     const auto index = static_cast<std::size_t>(position - 1);
-    const BoundItem& chosen = bound.items[index];
-    const ast::SelectCore& core = query.cores.front();
-    if (core.top && query.cores.size() == 1) {
-        if (chosen.expr) return comparable(*chosen.expr);
-        return field(bound.sources[static_cast<std::size_t>(chosen.source)], chosen.column);
+    if (query.cores.size() == 1 && query.cores.front().top) {
+        const BoundCore& bound = *scopes_.back();
+        const BoundItem& chosen = bound.items[index];
+        return chosen.expr ? comparable(*chosen.expr)
+                           : field(bound.sources[static_cast<std::size_t>(chosen.source)], chosen.column);
     }
-    sql = std::to_string(position);
-    return columnType(query, index) == ExprType::Text ? sql + " COLLATE DE" : sql;
+    const std::string place = std::to_string(position);
+    return columnType(query, index) == ExprType::Text ? place + " COLLATE DE" : place;
 }
 
 /// Rows that the statement's own keys leave equal come in the order of the first table's key.
@@ -235,9 +233,8 @@ std::vector<std::string> Emitter::keyOf(const BoundCore& bound) const {
     if (bound.sources.empty() || !bound.sources.front().table) return {};
     const BoundSource& first = bound.sources.front();
     if (first.table->keyColumns.empty()) {
-        const std::string rowId = rowIdName(*first.table);
-        return rowId.empty() ? std::vector<std::string>{}
-                             : std::vector{"t" + std::to_string(first.number) + "." + rowId};
+        if (rowIdName(*first.table).empty()) return {};
+        return {identity(first)};
     }
     std::vector<std::string> key;
     for (const int column : first.table->keyColumns)
@@ -245,34 +242,74 @@ std::vector<std::string> Emitter::keyOf(const BoundCore& bound) const {
     return key;
 }
 
+/// What tells the rows of a table apart. Inside brackets of a join the storage hides a table's identity, so there it is
+/// asked for by the counter, or given a name of its own by source().
+std::string Emitter::identity(const BoundSource& source) const {
+    const std::vector<Column>& columns = source.table->columns;
+    const auto counter = std::find_if(columns.begin(), columns.end(), [](const Column& c) { return c.counter; });
+    if (counter != columns.end()) return field(source, static_cast<int>(counter - columns.begin()));
+    const bool hidden = std::find(bracketed_.begin(), bracketed_.end(), source.number) != bracketed_.end();
+    return "t" + std::to_string(source.number) + "." + (hidden ? "j_id" : rowIdName(*source.table));
+}
+
+namespace {
+
+/// A join's left side may be a join of its own without brackets, so the side that is one goes left; RIGHT becomes LEFT
+/// with the sides changed.
+struct JoinSides {
+    const ast::Source& left;
+    const ast::Source& right;
+    bool inner;
+};
+
+JoinSides sidesOf(const ast::JoinSource& join) {
+    using Kind = ast::JoinSource::Kind;
+    const bool inner = join.kind == Kind::Inner || join.kind == Kind::Cross;
+    const bool swap = join.kind == Kind::Right || (inner && asJoin(*join.right) && !asJoin(*join.left));
+    return swap ? JoinSides{*join.right, *join.left, inner} : JoinSides{*join.left, *join.right, inner};
+}
+
+} // namespace
+
+void Emitter::findBracketed(const ast::Source& source, const BoundCore& bound, bool inside) {
+    if (const auto* table = std::get_if<ast::TableSource>(&source.node)) {
+        if (inside) bracketed_.push_back(bound.sources[static_cast<std::size_t>(table->index)].number);
+    } else if (const ast::JoinSource* join = asJoin(source)) {
+        const JoinSides sides = sidesOf(*join);
+        findBracketed(sides.left, bound, inside);
+        findBracketed(sides.right, bound, inside || asJoin(sides.right));
+    }
+}
+
+std::string Emitter::tableSource(const BoundSource& source) const {
+    const std::string name = " AS t" + std::to_string(source.number);
+    const bool counted = std::any_of(source.table->columns.begin(), source.table->columns.end(),
+                                     [](const Column& column) { return column.counter; });
+    const bool hidden = std::find(bracketed_.begin(), bracketed_.end(), source.number) != bracketed_.end();
+    if (hidden && !counted)
+        return "(SELECT *, " + rowIdName(*source.table) + " AS j_id FROM " + source.table->qualifiedName() + ")" + name;
+    return source.table->qualifiedName() + name;
+}
+
 std::string Emitter::source(const ast::Source& source) {
     const std::vector<BoundSource>& sources = scopes_.back()->sources;
-    return std::visit(Overloaded{[&](const ast::TableSource& t) {
-                                     const BoundSource& bound = sources[static_cast<std::size_t>(t.index)];
-                                     return bound.table->qualifiedName() + " AS t" + std::to_string(bound.number);
-                                 },
-                                 [&](const ast::DerivedSource& d) {
-                                     const BoundSource& bound = sources[static_cast<std::size_t>(d.index)];
-                                     return "(" + select(*d.select, Order::Any, nullptr) + ") AS t" +
-                                            std::to_string(bound.number);
-                                 },
-                                 [&](const ast::JoinSource& j) { return join(j); }},
-                      source.node);
+    return std::visit(
+        Overloaded{[&](const ast::TableSource& t) { return tableSource(sources[static_cast<std::size_t>(t.index)]); },
+                   [&](const ast::DerivedSource& d) {
+                       const int number = sources[static_cast<std::size_t>(d.index)].number;
+                       return "(" + select(*d.select, Order::Any, nullptr) + ") AS t" + std::to_string(number);
+                   },
+                   [&](const ast::JoinSource& j) { return join(j); }},
+        source.node);
 }
 
 std::string Emitter::joinOperand(const ast::Source& operand) {
     return asJoin(operand) ? "(" + source(operand) + ")" : source(operand);
 }
 
-/// A join's left side may be a join of its own without brackets, so the side that is one goes left; RIGHT becomes LEFT
-/// with the sides changed.
 std::string Emitter::join(const ast::JoinSource& join) {
-    using Kind = ast::JoinSource::Kind;
-    const bool inner = join.kind == Kind::Inner || join.kind == Kind::Cross;
-    const bool swap = join.kind == Kind::Right || (inner && asJoin(*join.right) && !asJoin(*join.left));
-    const ast::Source& left = swap ? *join.right : *join.left;
-    const ast::Source& right = swap ? *join.left : *join.right;
-    std::string sql = source(left) + (inner ? " INNER JOIN " : " LEFT JOIN ") + joinOperand(right);
+    const JoinSides sides = sidesOf(join);
+    std::string sql = source(sides.left) + (sides.inner ? " INNER JOIN " : " LEFT JOIN ") + joinOperand(sides.right);
     if (join.on) sql += " ON " + condition(*join.on);
     return sql;
 }

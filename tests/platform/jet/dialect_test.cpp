@@ -8,7 +8,8 @@
 
 namespace {
 
-/// The dialect's rules, a file of statements for each area, each statement in a fresh data file with the same small tables.
+/// The dialect's rules, a file of statements for each area, each statement in a fresh data file with the same small
+/// tables.
 class Dialect : public testing::TestWithParam<std::string> {};
 
 TEST_P(Dialect, GivesTheRowsItMust) {
