@@ -1,0 +1,1 @@
+SELECT   BelegNummer  From tblBelegung  Where BelegNummer = 5

@@ -1,0 +1,1 @@
+DELETE * FROM tblBelegung WHERE datediff('m', Bis, Now) >= 5;

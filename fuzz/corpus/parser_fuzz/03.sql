@@ -1,0 +1,1 @@
+UPDATE tbRechnungen SET BetragBrutto = 5 WHERE (((ReNummer)=5))

@@ -1,0 +1,1 @@
+Update tbSteuerschluessel set GueltigSeit  = cdate('15.06.2026')

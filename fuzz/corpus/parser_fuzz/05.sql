@@ -1,0 +1,1 @@
+SELECT *, Abgerechnet, IST_Geteilt FROM tblBelegung WHERE ID IN (5)

@@ -1,0 +1,1 @@
+UPDATE tblBelegung SET Abg_Temp = 'Ja' WHERE (((Abg_Temp) Is Null))

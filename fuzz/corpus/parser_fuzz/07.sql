@@ -1,0 +1,1 @@
+INSERT INTO tbSteuerschluessel ( Steuersatz, Standard ) values( 16, True)

@@ -1,0 +1,1 @@
+SELECT tblTarife.Tarif From tblTarife WHERE (((tblTarife.Tarif) like '5' ));

@@ -1,0 +1,1 @@
+SELECT Address.ID,  Address.LastName FROM Address ORDER BY Address.LastName;

@@ -1,0 +1,1 @@
+SELECT Max(tbFeiertage.IDFeiertage) AS [Max von IDFeiertage] FROM tbFeiertage

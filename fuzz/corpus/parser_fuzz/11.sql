@@ -1,0 +1,1 @@
+SELECT Sum(tbZahlung.Betrag)  From tbZahlung WHERE (((tbZahlung.IdRechnung)=5))

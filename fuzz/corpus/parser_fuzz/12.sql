@@ -1,0 +1,1 @@
+SELECT Beszaehler From tbRechnungen where Beszaehler <> NULL ORDER BY Beszaehler

@@ -1,0 +1,1 @@
+SELECT distinct tbZahlart.Zahlarten  From tbZahlart ORDER BY tbZahlart.Zahlarten;

@@ -1,0 +1,1 @@
+SELECT tbPLZ.Ort, tbPLZ.PLZ From tbPLZ WHERE (((tbPLZ.PLZ) Like '5*')) Order by Ort

@@ -1,0 +1,1 @@
+UPDATE tbZahlung SET tbZahlung.IdRechnung = Null  WHERE (((tbZahlung.IdRechnung)=5))

@@ -1,0 +1,1 @@
+SELECT tblTarife.Tarif From tblTarife WHERE format(tblTarife.Tarif, '###,##0.00')= '5'

@@ -1,0 +1,1 @@
+Select ID, Lastname from Address Where format(lastname,'<') like '5*' order by lastname

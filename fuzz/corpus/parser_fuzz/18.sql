@@ -1,0 +1,1 @@
+SELECT Max(tbSteuerschluessel.IDSteuerschluessel) AS [LetzteNummer]  FROM tbSteuerschluessel;

@@ -1,0 +1,1 @@
+SELECT (SELECT Inhalt FROM tblTexte WHERE Textbaustein='Bank') AS TEXT4, Inhalt FROM tblTexte

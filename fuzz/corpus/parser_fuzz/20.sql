@@ -1,0 +1,1 @@
+Select IdBelegung, IdRechnung from  tbZahlung WHERE tbZahlung.IdBelegung=5 and IDRechnung is NULL;

@@ -1,0 +1,1 @@
+SELECT DISTINCT Address.ID FROM Address INNER JOIN tblBelegung ON Address.ID = tblBelegung.GastID;

@@ -1,0 +1,1 @@
+SELECT idSaisonzeiten,  Start as [Saison-Beginn], Ende as [Saison-Ende] , Saisonbezeichnung   FROM tbSaisonzeiten

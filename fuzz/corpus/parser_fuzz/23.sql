@@ -1,0 +1,1 @@
+DELETE tbZahlung.IDBelegung From tbZahlung  WHERE (((tbZahlung.IDBelegung) Not In (Select ID from TBLBelegung;)))

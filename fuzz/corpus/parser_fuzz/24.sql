@@ -1,0 +1,1 @@
+SELECT tbBelegArten.BelegungsID, tbBelegArten.BelegungsArt  From tbBelegArten where BelegungsID <> 0 Order by BelegungsID

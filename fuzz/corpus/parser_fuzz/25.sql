@@ -1,0 +1,1 @@
+SELECT DISTINCT tbRePosten.IDAdressePo, tbRePosten.AbgerechnetPo  From  tbRePosten  WHERE (((tbRePosten.IDAdressePo= 5)))

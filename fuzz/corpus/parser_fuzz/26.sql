@@ -1,0 +1,1 @@
+SELECT IDSteuerSchluessel, Steuersatz  From tbSteuerschluessel  Where idSTeuerschluessel in (5)  ORDER BY Steuersatz DESC;

@@ -1,0 +1,1 @@
+DELETE tbAnsprechpartner.*, Address.ID  FROM Address RIGHT JOIN tbAnsprechpartner ON Address.ID = tbAnsprechpartner.IDAdresse

@@ -1,0 +1,1 @@
+UPDATE tbRechnungen_zu_Posten RIGHT JOIN tblBelegung  ON tbRechnungen_zu_Posten.IDBelegung = tblBelegung.ID SET tblBelegung.Abgerechnet = 0

@@ -1,0 +1,1 @@
+UPDATE Address LEFT JOIN tbAnreden ON Address.IDAnrede = tbAnreden.IDAnrede  SET Address.Anrede = Null WHERE (((tbAnreden.IDAnrede) Is Not Null));

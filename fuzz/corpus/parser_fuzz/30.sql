@@ -1,0 +1,1 @@
+SELECT distinct BelegNummer_eigen,  BelegNummer  From tblBelegung  Where BelegNummer <> NULL and belegnummer > 0   ORDER BY tblBelegung.BelegNummer

@@ -1,0 +1,1 @@
+SELECT tbBlockbuchung.IDBlockbuchung FROM tbBlockbuchung  INNER JOIN tblBelegung ON tbBlockbuchung.IDBelegung = tblBelegung.ID  WHERE (((tblBelegung.ID)=5));

@@ -1,0 +1,1 @@
+UPDATE tbBlockbuchung INNER JOIN tblBelegung ON tbBlockbuchung.IDBelegung = tblBelegung.id  SET tblBelegung.FIX = 5 WHERE (((tbBlockbuchung.IDBlockbuchung)=5));

@@ -1,0 +1,1 @@
+SELECT tblBelegung.Kürzel, tbBlockbuchung.IDBlockbuchung FROM tblBelegung INNER JOIN tbBlockbuchung ON tblBelegung.ID = tbBlockbuchung.IDBelegung  WHERE (((tblBelegung.Kürzel) Like '5'));

@@ -1,0 +1,1 @@
+SELECT DISTINCTROW TOP 5 PERCENT t.*, a AS b, Left$(c,2) d FROM t x, (SELECT 1;) y WHERE Exists (SELECT * FROM u)

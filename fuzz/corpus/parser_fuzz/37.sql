@@ -1,0 +1,1 @@
+SELECT -a ^ 2 \ 3 Mod 4 & 'x' Imp b Eqv c Xor Not d Between 1 And 2 Or e Not In (1,2)

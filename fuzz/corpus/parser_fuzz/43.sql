@@ -1,0 +1,1 @@
+INSERT INTO t (a, b) SELECT c, Count(*) FROM u GROUP BY c HAVING Sum(d) <> 0;
