@@ -1,9 +1,9 @@
 // herbergo-sql: the support tool of the house, an administrator's way into the data files.
 
-#include "platform/basic/text.h"
 #include "platform/jet/cell_text.h"
 #include "platform/jet/parser.h"
 #include "platform/jet/workspace.h"
+#include "store/database_files.h"
 
 #include <CLI/CLI.hpp>
 
@@ -23,7 +23,7 @@ enum class Header { Omit, Print };
 struct Options {
     std::string file;
     std::string statement;
-    std::string password = "4x926h31";
+    std::string password{store::kPassword};
     bool batch = false;
     bool create = false;
 };
@@ -45,7 +45,6 @@ void printRows(jet::Recordset& rows) {
 bool returnsRows(std::string_view sql) { return std::holds_alternative<jet::ast::Select>(jet::parse(sql).statement); }
 
 void run(jet::Database& database, const std::string& sql, Header header) {
-    if (!basic::isValidText(sql)) jet::raise(jet::ErrorNumber::Syntax, "Die Anweisung ist kein gültiger UTF-8-Text.");
     if (!returnsRows(sql)) {
         database.Execute(sql);
         std::cout << "ok " << database.RecordsAffected() << '\n';
@@ -110,27 +109,37 @@ int execute(const Options& options) {
     return answered && std::cout ? 0 : exitFailed;
 }
 
-void describe(CLI::App& app, Options& options) {
-    app.set_help_flag("-h,--help", "Zeigt diese Hilfe");
+void labelInGerman(CLI::App& app) {
+    app.set_help_flag("-h,--help", "Zeigt diese Hilfe")->group("Optionen");
     app.failure_message([](const CLI::App*, const CLI::Error& error) {
         return "Falscher Aufruf: " + std::string(error.what()) + "\nMehr mit --help.\n";
     });
-    app.get_formatter()->label("OPTIONS", "OPTIONEN");
-    app.get_formatter()->label("Usage", "Aufruf");
-    app.get_formatter()->label("Options", "Optionen");
-    app.get_formatter()->label("Positionals", "Angaben");
-    app.get_formatter()->label("REQUIRED", "(nötig)");
+    const auto formatter = app.get_formatter();
+    formatter->label("OPTIONS", "OPTIONEN");
+    formatter->label("Usage", "Aufruf");
+    formatter->label("Positionals", "Angaben");
+    formatter->label("Excludes", "nicht mit");
+}
+
+void requireStatement(const Options& options) {
+    if (options.file.empty()) throw CLI::ValidationError("DATEI", "Es fehlt die Datenbankdatei");
+    if (!options.batch && options.statement.empty())
+        throw CLI::ValidationError("ANWEISUNG", "Es fehlt die Anweisung (oder --batch)");
+}
+
+void describe(CLI::App& app, Options& options) {
+    labelInGerman(app);
     auto* batch = app.add_flag("--batch", options.batch,
                                "Liest von der Standardeingabe, je Zeile eine Anweisung; auf jede Antwort folgt eine "
                                "leere Zeile");
-    app.add_flag("--create", options.create, "Legt eine leere Datei an, wenn dort keine ist");
-    app.add_option("--password", options.password, "Kennwort der Datei (sonst das des Hauses)")->type_name("KENNWORT");
-    app.add_option("DATEI", options.file, "Die Datenbankdatei")->required()->type_name("");
+    auto* create = app.add_flag("--create", options.create, "Legt eine leere Datei an, wenn dort keine ist");
+    auto* password = app.add_option("--password", options.password, "Kennwort der Datei (sonst das des Hauses)");
+    for (CLI::Option* option : {batch, create, password})
+        option->group("Optionen");
+    password->type_name("KENNWORT");
+    app.add_option("DATEI", options.file, "Die Datenbankdatei")->type_name("");
     app.add_option("ANWEISUNG", options.statement, "Die Anweisung, wenn nicht --batch")->type_name("")->excludes(batch);
-    app.callback([&options] {
-        if (!options.batch && options.statement.empty())
-            throw CLI::ValidationError("ANWEISUNG", "Es fehlt die Anweisung (oder --batch)");
-    });
+    app.callback([&options] { requireStatement(options); });
 }
 
 } // namespace
