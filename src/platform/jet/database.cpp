@@ -69,13 +69,17 @@ void requireTarget(Connection& connection, const Link& link) {
     std::ignore = connection.catalogue().resolve(link);
 }
 
-void createLink(Connection& connection, const Link& link) {
+void requireNewLink(Connection& connection, const Link& link) {
     requireTableName(link.name.text());
-    connection.refreshCatalogue();
     if (connection.catalogue().has(link.name)) raise(ErrorNumber::TableExists, link.name.text());
     requireTarget(connection, link);
+}
+
+void createLinks(Connection& connection, const std::vector<Link>& links) {
+    for (const Link& link : links)
+        requireNewLink(connection, link);
     connection.requireWritable("main");
-    storeLink(connection.storage(), link);
+    storeLinks(connection.storage(), links);
     connection.linksChanged();
 }
 
@@ -130,10 +134,21 @@ TableDef Database::GetTableDef(std::string_view name) const {
     return definition;
 }
 
-void Database::AppendTableDef(const TableDef& table) {
+void Database::AppendTableDef(const TableDef& table) { AppendTableDefs({&table, 1}); }
+
+void Database::AppendTableDefs(std::span<const TableDef> tables) {
     Connection& connection = openOne(connection_);
-    if (table.Connect.empty()) return createTable(connection, table);
-    createLink(connection, {SqlName(table.Name), table.Connect, table.SourceTableName});
+    connection.refreshCatalogue();
+    std::vector<TableDef> own;
+    std::vector<Link> links;
+    for (const TableDef& table : tables) {
+        if (table.Connect.empty())
+            own.push_back(table);
+        else
+            links.push_back({SqlName(table.Name), table.Connect, table.SourceTableName});
+    }
+    if (!own.empty()) createTables(connection, own);
+    if (!links.empty()) createLinks(connection, links);
 }
 
 void Database::DeleteTableDef(std::string_view name) {

@@ -4,6 +4,7 @@
 #include "platform/jet/table_def.h"
 
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,6 +42,8 @@ public:
     [[nodiscard]] bool HasTable(std::string_view name) const;
     /// Appends a table or (Connect set) a link. 3010 when the name is taken.
     void AppendTableDef(const TableDef& table);
+    /// Several at once, with one flush for the tables and one for the links: all tables or none, all links or none.
+    void AppendTableDefs(std::span<const TableDef> tables);
     void DeleteTableDef(std::string_view name);
     /// Appends a field to a table of this file (not of a link). 3191 when it is there.
     void AppendField(std::string_view table, const FieldDef& field);

@@ -207,6 +207,22 @@ void writeIndexes(sqlite3* storage, const Table& table, const std::vector<IndexD
     }
 }
 
+void requireNewTable(Connection& connection, const TableDef& definition) {
+    requireTableName(definition.Name);
+    if (connection.catalogue().has(SqlName(definition.Name))) raise(ErrorNumber::TableExists, definition.Name);
+    if (std::ranges::count(definition.Indexes, true, &IndexDef::Primary) > 1)
+        raise(ErrorNumber::InvalidDefinition, "Eine Tabelle hat höchstens einen Primärschlüssel.");
+}
+
+void writeTable(sqlite3* storage, const TableDef& definition) {
+    Table table = plannedTable(definition);
+    const auto key = std::ranges::find(definition.Indexes, true, &IndexDef::Primary);
+    run(storage, createTableText(table, key == definition.Indexes.end() ? nullptr : &*key));
+    writeIndexes(storage, table, definition.Indexes);
+    for (const Column& column : table.columns)
+        storeFieldProperties(storage, table.storedName, column);
+}
+
 void addUnchecked(Connection& connection, const SqlName& table, const ast::ColumnDef& definition) {
     if (definition.primaryKey) raise(ErrorNumber::InvalidDefinition, "Der Schlüssel entsteht mit der Tabelle.");
     addColumn(connection, table, fieldOf(definition));
@@ -245,19 +261,15 @@ bool isDefinition(const ast::Statement& statement) {
 
 void define(Connection& connection, const ast::Statement& statement) { std::visit(Definer{connection}, statement); }
 
-void createTable(Connection& connection, const TableDef& definition) {
-    requireTableName(definition.Name);
+void createTable(Connection& connection, const TableDef& table) { createTables(connection, {&table, 1}); }
+
+void createTables(Connection& connection, std::span<const TableDef> tables) {
     connection.catalogue().reloadIfChanged();
-    if (connection.catalogue().has(SqlName(definition.Name))) raise(ErrorNumber::TableExists, definition.Name);
-    if (std::ranges::count(definition.Indexes, true, &IndexDef::Primary) > 1)
-        raise(ErrorNumber::InvalidDefinition, "Eine Tabelle hat höchstens einen Primärschlüssel.");
-    Table table = plannedTable(definition);
-    const auto key = std::ranges::find(definition.Indexes, true, &IndexDef::Primary);
+    for (const TableDef& definition : tables)
+        requireNewTable(connection, definition);
     DefinitionGuard guard(connection);
-    run(connection.storage(), createTableText(table, key == definition.Indexes.end() ? nullptr : &*key));
-    writeIndexes(connection.storage(), table, definition.Indexes);
-    for (const Column& column : table.columns)
-        storeFieldProperties(connection.storage(), table.storedName, column);
+    for (const TableDef& definition : tables)
+        writeTable(connection.storage(), definition);
     guard.keep();
     connection.schemaChanged();
 }

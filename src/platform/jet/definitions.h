@@ -4,6 +4,8 @@
 #include "platform/jet/lexer.h"
 #include "platform/jet/table_def.h"
 
+#include <span>
+
 namespace jet {
 
 class Connection;
@@ -21,6 +23,8 @@ void define(Connection& connection, const ast::Statement& statement);
 
 /// 3010 when the name is taken, 3125 for a name that cannot be, 3292 for fields or indexes that cannot be.
 void createTable(Connection& connection, const TableDef& table);
+/// The same for several, all or none.
+void createTables(Connection& connection, std::span<const TableDef> tables);
 void dropTable(Connection& connection, const SqlName& name);
 /// 3191 when the field is there.
 void addColumn(Connection& connection, const SqlName& table, const FieldDef& field);

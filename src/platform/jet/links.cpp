@@ -51,6 +51,18 @@ void storeLink(sqlite3* storage, const Link& link) {
         texts);
 }
 
+void storeLinks(sqlite3* storage, const std::vector<Link>& links) {
+    run(storage, "SAVEPOINT links");
+    try {
+        for (const Link& link : links)
+            storeLink(storage, link);
+        run(storage, "RELEASE links");
+    } catch (const Error&) {
+        sqlite3_exec(storage, "ROLLBACK TO links; RELEASE links", nullptr, nullptr, nullptr);
+        throw;
+    }
+}
+
 void dropLink(sqlite3* storage, const SqlName& name) {
     run(storage, "DELETE FROM main." + quoted(linksTable) + " WHERE Name = ?1", std::array{name.text()});
 }

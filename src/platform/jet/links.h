@@ -29,6 +29,8 @@ struct ConnectText {
 
 [[nodiscard]] std::vector<Link> readLinks(sqlite3* storage);
 void storeLink(sqlite3* storage, const Link& link);
+/// All or none, with one flush.
+void storeLinks(sqlite3* storage, const std::vector<Link>& links);
 void dropLink(sqlite3* storage, const SqlName& name);
 
 } // namespace jet
