@@ -36,12 +36,16 @@ bool relinked(jet::Database& linkFile, const LinkPlaces& places, const jet::Tabl
 
 bool tableIsLinked(const jet::Database& linkFile, std::string_view table) { return linkFile.HasTable(table); }
 
-void createLink(jet::Database& linkFile, std::string_view connect, std::string_view table) {
+jet::TableDef linkDef(std::string_view connect, std::string_view table) {
     jet::TableDef link;
     link.Name = table;
     link.Connect = connect;
     link.SourceTableName = table;
-    linkFile.AppendTableDef(link);
+    return link;
+}
+
+void createLink(jet::Database& linkFile, std::string_view connect, std::string_view table) {
+    linkFile.AppendTableDef(linkDef(connect, table));
 }
 
 void refreshLink(jet::Database& linkFile, std::string_view connect, std::string_view table) {

@@ -18,6 +18,8 @@ struct LinkPlaces {
 
 /// Is there a table or link of this name in the link file?
 [[nodiscard]] bool tableIsLinked(const jet::Database& linkFile, std::string_view table);
+/// A link to the table of the same name in the file that `connect` tells.
+[[nodiscard]] jet::TableDef linkDef(std::string_view connect, std::string_view table);
 /// 3010 when the name is taken.
 void createLink(jet::Database& linkFile, std::string_view connect, std::string_view table);
 /// Does nothing when there is no such link. 3024 when the file is missing, 3011 when the table is.

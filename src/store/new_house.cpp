@@ -67,15 +67,6 @@ jet::Database createFile(const jet::Workspace& workspace, const std::string& pat
     return database;
 }
 
-/// The rest of the tables follows in one transaction on the first one: one flush instead of one for each.
-void appendTables(jet::Database& database, const std::vector<jet::TableDef>& tables) {
-    database.AppendTableDef(tables.front());
-    jet::Transaction transaction(database, tables.front().Name);
-    for (std::size_t index = 1; index < tables.size(); ++index)
-        database.AppendTableDef(tables.at(index));
-    transaction.Commit();
-}
-
 template <typename Fill>
 void inOneTransaction(jet::Database& database, std::string_view homeTable, Fill fill) {
     jet::Transaction transaction(database, homeTable);
@@ -85,13 +76,13 @@ void inOneTransaction(jet::Database& database, std::string_view homeTable, Fill 
 
 void createZentral(const jet::Workspace& workspace, const std::string& path, Scaffold& scaffold) {
     jet::Database database = createFile(workspace, path, scaffold);
-    appendTables(database, tablesOf(HomeFile::Zentral));
+    database.AppendTableDefs(tablesOf(HomeFile::Zentral));
     inOneTransaction(database, "tblBelegung", fillSharedLists);
 }
 
 void createHerbergo(const jet::Workspace& workspace, const std::string& path, Scaffold& scaffold) {
     jet::Database database = createFile(workspace, path, scaffold);
-    appendTables(database, tablesOf(HomeFile::Herbergo));
+    database.AppendTableDefs(tablesOf(HomeFile::Herbergo));
     inOneTransaction(database, "tblParameter", fillSourceLists);
 }
 
@@ -100,14 +91,17 @@ void createLokal(const jet::Workspace& workspace, const std::string& folder, Sca
     jet::Database database = createFile(workspace, joinPath(folder, names.Lokal), scaffold);
     const std::string zentral = fs::absolute(joinPath(folder, names.Zentral)).lexically_normal().string();
     const std::string herbergo = fs::absolute(joinPath(folder, names.Herbergo)).lexically_normal().string();
+    std::vector<jet::TableDef> links;
     for (const SchemaTable& entry : schema())
-        createLink(database, linkConnect(entry.home == HomeFile::Zentral ? zentral : herbergo), entry.definition.Name);
+        links.push_back(
+            linkDef(linkConnect(entry.home == HomeFile::Zentral ? zentral : herbergo), entry.definition.Name));
+    database.AppendTableDefs(links);
 }
 
 void createBeispiel(const jet::Workspace& workspace, const std::string& path, const NewHouse& house,
                     Scaffold& scaffold) {
     jet::Database database = createFile(workspace, path, scaffold);
-    appendTables(database, sampleFileTables());
+    database.AppendTableDefs(sampleFileTables());
     inOneTransaction(database, "tblBelegung", fillSharedLists);
     inOneTransaction(database, "tblParameter", fillSourceLists);
     if (house.beispieldatei) fillSampleHouse(database, house.Jetzt);
@@ -115,7 +109,7 @@ void createBeispiel(const jet::Workspace& workspace, const std::string& path, co
 
 void createFeiertag(const jet::Workspace& workspace, const std::string& path, Scaffold& scaffold) {
     jet::Database database = createFile(workspace, path, scaffold);
-    appendTables(database, holidayFileTables());
+    database.AppendTableDefs(holidayFileTables());
 }
 
 void createFiles(const jet::Workspace& workspace, const NewHouse& house, Scaffold& scaffold) {
