@@ -94,7 +94,7 @@ public:
     [[nodiscard]] std::int64_t count(std::string_view table);
 
 private:
-    TempFolder folder_;
+    TempFolder folder_{TempFolder::Place::Memory};
     services::FixedClock clock_;
     jet::Workspace workspace_;
     jet::Database database_;
