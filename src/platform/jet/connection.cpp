@@ -252,7 +252,6 @@ void Connection::refreshCatalogue() {
 
 void Connection::linksChanged() {
     dropStatements();
-    catalogue().reload();
     catalogue().followLinks();
 }
 

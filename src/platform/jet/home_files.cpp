@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <utility>
 
 namespace jet {
 
@@ -110,8 +111,8 @@ void HomeFiles::attachInOrder() {
 void HomeFiles::attachAll(const std::set<std::string>& paths) {
     for (const std::string& path : paths)
         if (path != main_.path) std::ignore = entry(path);
-    wanted_ = paths;
-    attachInOrder();
+    // Attaching costs several reads of the file, perhaps over the network: not for links that lead to the same files.
+    if (std::exchange(wanted_, paths) != paths) attachInOrder();
 }
 
 HomeFile& HomeFiles::require(const std::string& path, const std::string& password) {
