@@ -17,7 +17,7 @@
 ///   rows: names between tabs    columns to compare; without names all, in order
 ///   cell<TAB>cell               one line a row, as the support tool prints them
 ///   affected: 3                 for a change, followed by pairs of check: and rows:
-///   error: 3464                 instead of rows
+///   error: 3464                 instead of rows; affected: 0 beside it executes a SELECT
 namespace support {
 
 struct ExpectedRows {

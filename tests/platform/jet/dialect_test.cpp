@@ -13,7 +13,7 @@ namespace {
 class Dialect : public testing::TestWithParam<std::string> {};
 
 TEST_P(Dialect, GivesTheRowsItMust) {
-    const support::TempFolder folder;
+    const support::TempFolder folder(support::TempFolder::Place::Memory);
     const services::FixedClock clock(jet::Date::fromYmdHms(2026, 6, 15, 10, 30, 0));
     const jet::Workspace workspace(clock);
     const std::string filled = folder.file("Vorlage.mdb");
