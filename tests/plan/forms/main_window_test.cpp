@@ -1,0 +1,183 @@
+#include "plan/forms/main_window.h"
+
+#include "plan/forms/plan_painter.h"
+#include "plan/forms/plan_widget.h"
+#include "plan/imagined_source.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QImage>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QToolButton>
+#include <QToolTip>
+
+namespace plan {
+namespace {
+
+constexpr Farbe Gelb = 0x00F0F0;
+constexpr Farbe Nachtblau = 0x501000;
+
+PlanEinstellungen Belegfarben() {
+    PlanEinstellungen e;
+    e.Farben[1] = Gelb;
+    e.Farben[2] = Nachtblau;
+    return e;
+}
+
+struct Window {
+    explicit Window(Hausgröße größe = {}, std::vector<Markierung> rows = {}) : plan(größe, Belegfarben()) {
+        plan.quelle.rows = std::move(rows);
+        form.Form_Load();
+        window.resize(900, 480);
+        window.show();
+        QTest::qWait(0);
+        window.refresh();
+    }
+
+    template <typename T>
+    [[nodiscard]] T& find(const char* name) {
+        auto* widget = window.findChild<T*>(QString::fromLatin1(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return *widget;
+    }
+    void press(const char* name) { QTest::mouseClick(&find<QPushButton>(name), Qt::LeftButton); }
+    [[nodiscard]] PlanWidget& widget() { return *static_cast<PlanWidget*>(&find<QWidget>("plan")); }
+    [[nodiscard]] QColor pixel(QPoint point) { return widget().grab().toImage().pixelColor(point); }
+    [[nodiscard]] QPoint centre(int line, int column) { return widget().places().cell(line, column).center(); }
+
+    GedachterPlan plan;
+    frmMain form{plan.raster, plan.clock};
+    MainWindow window{form};
+};
+
+TEST(MainWindow, ButtonsMoveThePlan) {
+    Window w;
+    EXPECT_EQ(w.plan.raster.PlanStart(), tag(30, 5));
+    EXPECT_EQ(w.window.windowTitle(), QStringLiteral("Herbergo Version 4.10"));
+    w.press("cmdNextWeek");
+    EXPECT_EQ(w.plan.raster.PlanStart(), tag(6));
+    EXPECT_EQ(w.find<QLabel>("lblZeitraum").text(), QStringLiteral("6. Juni – 15. Juni 2026"));
+    w.press("cmdPrev3Months");
+    EXPECT_EQ(w.plan.raster.PlanStart(), tag(6, 3));
+    w.press("cmdHeute");
+    EXPECT_EQ(w.plan.raster.PlanStart(), tag(30, 5));
+}
+
+TEST(MainWindow, ReloadShowsWhatAnotherStationWrote) {
+    Window w;
+    const auto before = w.pixel(w.centre(2, 5));
+    w.plan.quelle.rows = {{.Von = tag(2), .Bis = tag(5), .Zimmernummer = 2, .BelegungsID = 1, .ID = 1}};
+    w.press("cmdAktualisieren");
+    EXPECT_NE(w.pixel(w.centre(2, 5)), before);
+    EXPECT_EQ(w.pixel(w.centre(2, 5)), colour(Gelb));
+}
+
+TEST(MainWindow, BarHasItsColoursAtTheCentreOfItsCells) {
+    Window w({}, {{.Von = tag(1), .Bis = tag(4), .Zimmernummer = 1, .BelegungsID = 1, .ID = 1},
+                  {.Von = tag(2), .Bis = tag(4), .Zimmernummer = 3, .BelegungsID = 2, .Gelöscht = true, .ID = 2}});
+    EXPECT_EQ(w.pixel(w.centre(1, 3)), colour(aufgehellt(Gelb, 60)));
+    EXPECT_EQ(w.pixel(w.centre(1, 4)), colour(Gelb));
+    EXPECT_EQ(w.pixel(w.centre(1, 5)), colour(Gelb));
+    EXPECT_EQ(w.pixel(w.centre(1, 6)), colour(w.plan.raster.FreieFarbe(6)));
+    EXPECT_EQ(w.pixel(w.centre(4, 5)), colour(Nachtblau));
+    for (const QSize size : {QSize(700, 320), QSize(1900, 1000)}) {
+        w.window.resize(size);
+        QTest::qWait(0);
+        EXPECT_EQ(w.pixel(w.centre(1, 4)), colour(Gelb)) << size.width();
+        EXPECT_EQ(w.pixel(w.centre(1, 6)), colour(w.plan.raster.FreieFarbe(6))) << size.width();
+    }
+}
+
+TEST(MainWindow, GuestInTheHouseIsFramedAllAround) {
+    Window w({}, {{.Von = tag(1), .Bis = tag(4), .Zimmernummer = 1, .BelegungsID = 1, .Checked = true, .ID = 1}});
+    const auto image = w.widget().grab().toImage();
+    const auto row = w.widget().places().span(1, 3, 5);
+    const auto dark = [&](QPoint point) { return image.pixelColor(point).lightness() < 40; };
+    const auto anyDark = [&](QPoint from, QPoint step) {
+        for (int i = 0; i < 10; ++i, from += step)
+            if (dark(from)) return true;
+        return false;
+    };
+    EXPECT_TRUE(anyDark({row.left(), row.center().y()}, {1, 0}));
+    EXPECT_TRUE(anyDark({row.right(), row.center().y()}, {-1, 0}));
+    for (const int column : {3, 4, 5}) {
+        const int x = w.centre(1, column).x();
+        EXPECT_TRUE(anyDark({x, row.top()}, {0, 1})) << column;
+        EXPECT_TRUE(anyDark({x, row.bottom()}, {0, -1})) << column;
+    }
+    const int inner = w.widget().places().x(4); // no frame between the cells of one bar
+    EXPECT_FALSE(dark({inner, row.center().y()}));
+}
+
+TEST(MainWindow, ScrollingKeepsTheWaitingRowInSight) {
+    std::vector<Markierung> rows;
+    for (int zimmer = 1; zimmer <= 20; ++zimmer)
+        rows.push_back({.Von = tag(2), .Bis = tag(5), .Zimmernummer = zimmer, .BelegungsID = 2, .ID = zimmer});
+    rows.push_back({.Von = tag(2), .Bis = tag(5), .Zimmernummer = 3, .BelegungsID = 1, .Gelöscht = true, .ID = 99});
+    Window w({.zimmer = 20, .tage = 10, .sichtbar = 5}, rows);
+    auto& bar = w.find<QScrollBar>("scrollBar");
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_EQ(bar.maximum(), 15);
+    for (const auto& [name, row] : {std::pair{"cmdLetzter", 16}, std::pair{"cmdErster", 1}}) {
+        QTest::mouseClick(&w.find<QToolButton>(name), Qt::LeftButton);
+        EXPECT_EQ(w.plan.raster.ErsteZeile(), row);
+        EXPECT_EQ(bar.value(), row - 1);
+        EXPECT_EQ(w.plan.raster.Tage(w.plan.raster.Zelle(1, 5)).ID, row);
+        EXPECT_EQ(w.pixel(w.centre(6, 6)), colour(Gelb));
+    }
+    bar.setValue(7);
+    EXPECT_EQ(w.plan.raster.ErsteZeile(), 8);
+}
+
+TEST(MainWindow, NothingToScrollShowsNoBar) {
+    Window w;
+    EXPECT_FALSE(w.find<QScrollBar>("scrollBar").isVisible());
+}
+
+TEST(MainWindow, LockedFileIsToldAndThePlanStays) {
+    Window w({}, {{.Von = tag(1), .Bis = tag(4), .Zimmernummer = 1, .BelegungsID = 1, .ID = 1}});
+    w.plan.quelle.kaputt = true;
+    w.press("cmdNextMonth");
+    EXPECT_EQ(w.plan.raster.PlanStart(), tag(30, 5));
+    EXPECT_EQ(w.pixel(w.centre(1, 4)), colour(Gelb));
+    EXPECT_TRUE(w.find<QLabel>("lblFehler").isVisible());
+    w.plan.quelle.kaputt = false;
+    w.press("cmdNextDay");
+    EXPECT_FALSE(w.find<QLabel>("lblFehler").isVisible());
+}
+
+TEST(MainWindow, RoomsAndWeeksExplainThemselves) {
+    Window w;
+    const auto toolTip = [&](QPoint at) {
+        QHelpEvent help(QEvent::ToolTip, at, w.widget().mapToGlobal(at));
+        QApplication::sendEvent(&w.widget(), &help);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(toolTip(w.widget().places().room(4).center()),
+              QStringLiteral("In dieser Zeile finden Sie alle noch nicht endgültigen Reservierungen."));
+    EXPECT_EQ(toolTip(w.widget().places().upperDay(3).center()), QStringLiteral("Mo, 01.Jun.26"));
+}
+
+TEST(MainWindow, EveryPointBelongsToTheCellThatIsPaintedThere) {
+    Window w({.zimmer = 7, .tage = 33, .sichtbar = 10});
+    const auto& places = w.widget().places();
+    for (int x = places.cells().left(); x <= places.cells().right(); ++x) {
+        const int column = places.columnAt(x);
+        EXPECT_TRUE(places.x(column) <= x && x < places.x(column + 1)) << x;
+    }
+    for (int y = places.cells().top(); y <= places.cells().bottom(); ++y) {
+        const int line = places.lineAt(y);
+        EXPECT_TRUE(places.y(line) <= y && y < places.y(line + 1)) << y;
+    }
+    EXPECT_EQ(places.columnAt(places.cells().left() - 1), 0);
+    EXPECT_EQ(places.columnAt(places.cells().right() + 1), 34);
+    EXPECT_EQ(places.lineAt(places.cells().bottom() + 1), 9);
+}
+
+} // namespace
+} // namespace plan
