@@ -44,7 +44,7 @@ Connection::Connection(std::shared_ptr<const WorkspaceSettings> settings, const 
 }
 
 void Connection::openChecked(const OpenOptions& options) {
-    requireDataFile(storage_.get(), "main");
+    requireDataFile(storage_.get(), "main", path_);
     if (!passwordFits(storage_.get(), "main", options.password)) raise(ErrorNumber::WrongPassword);
     if (options.exclusive) openExclusively(options.readOnly);
     rebuildOutdatedIndexes(storage_.get(), "main");

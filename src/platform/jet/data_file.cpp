@@ -29,8 +29,7 @@ void configure(sqlite3* storage, const services::Clock& clock) {
     sqlite3_db_config(storage, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(storage, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     registerFunctions(storage, clock);
-    for (const char* pragma : {"PRAGMA temp_store=MEMORY", "PRAGMA foreign_keys=OFF", "PRAGMA cache_size=-16000"})
-        run(storage, pragma);
+    run(storage, "PRAGMA temp_store=MEMORY");
 }
 
 std::string modeText(FileMode mode) {
@@ -146,13 +145,16 @@ StorageHandle openStorage(const std::string& path, FileMode mode, const services
 
 void markDataFile(sqlite3* storage) { run(storage, "PRAGMA application_id=" + std::to_string(houseMark)); }
 
-void requireDataFile(sqlite3* storage, std::string_view schema) {
+void requireDataFile(sqlite3* storage, std::string_view schema, const std::string& path) {
     const std::string pragma = "PRAGMA " + jet::quoted(schema) + ".";
-    // Reads the first page, and with it sees that the file is as long as its header says.
-    std::ignore = queryNumber(storage, pragma + "schema_version");
+    // Reads the first page, and with it sees that the file is as long as its header says, to the page.
+    const std::int64_t size = queryNumber(storage, pragma + "page_count") * queryNumber(storage, pragma + "page_size");
     if (queryNumber(storage, pragma + "application_id") != houseMark)
         raise(ErrorNumber::UnknownFormat, "Die Datei ist keine Datendatei des Programms.");
+    std::error_code problem;
+    if (fs::file_size(path, problem) < static_cast<std::uintmax_t>(size)) raise(ErrorNumber::Corrupt);
     if (queryText(storage, pragma + "journal_mode") == "wal") run(storage, pragma + "journal_mode=DELETE");
+    run(storage, pragma + "cache_size=-16000");
 }
 
 void raiseForeignFile(const std::string& path) {

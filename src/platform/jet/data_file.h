@@ -29,7 +29,7 @@ void requireFreePath(const std::string& path);
 void markDataFile(sqlite3* storage);
 /// Reads the header of an open file: raises 3343 when the house's mark is missing, 3049 when the file is damaged.
 /// UnknownFormat from the storage means that the file is something else: see raiseForeignFile.
-void requireDataFile(sqlite3* storage, std::string_view schema);
+void requireDataFile(sqlite3* storage, std::string_view schema, const std::string& path);
 /// Names what a file is that the storage did not know: a real Jet file (3343), a stump of a data file (3049), anything
 /// else (3343). Opens the file: only after the storage has closed it, since closing a file by hand drops the process's
 /// locks on it.

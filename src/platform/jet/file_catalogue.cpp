@@ -71,10 +71,17 @@ FileCatalogue::LinksByName FileCatalogue::readOwnLinks() const {
 
 void FileCatalogue::followLinks() {
     links_ = readOwnLinks();
+    if (mode_ == Links::Ignore) return;
+    std::map<std::string, std::string> homes; // path to password
     std::set<std::string> paths;
     for (const auto& [folded, link] : links_)
-        if (const std::string path = readConnect(link.connect).path; !path.empty()) paths.insert(path);
-    if (mode_ == Links::Follow) homes_->attachAll(paths);
+        if (const ConnectText connect = readConnect(link.connect); !connect.path.empty())
+            homes.insert_or_assign(connect.path, connect.password);
+    for (const auto& [path, password] : homes)
+        paths.insert(path);
+    homes_->attachAll(paths);
+    for (const auto& [path, password] : homes)
+        homes_->tryPassword(path, password);
 }
 
 bool FileCatalogue::followChangedLinks() {

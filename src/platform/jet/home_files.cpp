@@ -80,8 +80,7 @@ void HomeFiles::attach(HomeFile& file) {
     try {
         run(storage_, "ATTACH ?1 AS " + jet::quoted(file.schema), texts);
         file.attached = true;
-        run(storage_, "PRAGMA " + jet::quoted(file.schema) + ".cache_size=-16000");
-        requireDataFile(storage_, file.schema);
+        requireDataFile(storage_, file.schema, file.path);
         rebuildOutdatedIndexes(storage_, file.schema);
         load(file);
     } catch (const Error& error) {
@@ -124,10 +123,20 @@ HomeFile& HomeFiles::require(const std::string& path, const std::string& passwor
         attachInOrder();
         if (!file.attached) raise(ErrorNumber::CannotOpen, path);
     }
-    if (file.passwords.contains(password)) return file;
-    if (!passwordFits(storage_, file.schema, password)) raise(ErrorNumber::WrongPassword, path);
-    file.passwords.insert(password);
+    if (!fits(file, password)) raise(ErrorNumber::WrongPassword, path);
     return file;
+}
+
+bool HomeFiles::fits(HomeFile& file, const std::string& password) {
+    if (file.passwords.contains(password)) return true;
+    if (!passwordFits(storage_, file.schema, password)) return false;
+    file.passwords.insert(password);
+    return true;
+}
+
+void HomeFiles::tryPassword(const std::string& path, const std::string& password) {
+    const auto found = homes_.find(path);
+    if (found != homes_.end() && found->second.attached) std::ignore = fits(found->second, password);
 }
 
 void HomeFiles::load(HomeFile& file) {

@@ -36,6 +36,9 @@ public:
     /// The file, attached now if it was not. Raises that file's error: 3024 when it is missing, 3031 for a password
     /// that does not fit.
     [[nodiscard]] HomeFile& require(const std::string& path, const std::string& password);
+    /// Tries a password on an attached file ahead of its use: tried inside a transaction, it would keep the file locked
+    /// against other stations' writing until the end.
+    void tryPassword(const std::string& path, const std::string& password);
     /// Reads the tables of all attached files again.
     void reload();
     /// Has another connection changed the tables of a file since they were read?
@@ -44,6 +47,7 @@ public:
 private:
     [[nodiscard]] HomeFile& entry(const std::string& path);
     [[nodiscard]] std::vector<HomeFile*> inOrder();
+    [[nodiscard]] bool fits(HomeFile& file, const std::string& password);
     void detach(HomeFile& file);
     void attach(HomeFile& file);
     void attachInOrder();

@@ -1,6 +1,5 @@
 #include "platform/jet/storage.h"
 
-#include <cerrno>
 #include <charconv>
 
 namespace jet {
@@ -19,15 +18,13 @@ ErrorNumber constraintNumber(int extendedCode) {
     return extendedCode == SQLITE_CONSTRAINT_NOTNULL ? ErrorNumber::ValueRequired : ErrorNumber::KeyViolation;
 }
 
-/// A quota and a limit on the size of a file are a full disk to the user.
-ErrorNumber inputOutputNumber(sqlite3* storage) {
-    const int cause = sqlite3_system_errno(storage);
-    const bool full = cause == ENOSPC || cause == EDQUOT || cause == EFBIG;
-    return full ? ErrorNumber::DiskFull : ErrorNumber::Corrupt;
+/// What cannot be written has met a full disk, a quota or a limit; the storage tells only the first of them apart.
+ErrorNumber inputOutputNumber(int extendedCode) {
+    return extendedCode == SQLITE_IOERR_WRITE ? ErrorNumber::DiskFull : ErrorNumber::Corrupt;
 }
 
-std::optional<ErrorNumber> fileErrorNumber(sqlite3* storage, int code) {
-    switch (code) {
+std::optional<ErrorNumber> fileErrorNumber(int extendedCode) {
+    switch (extendedCode & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
         return ErrorNumber::Locked;
@@ -43,7 +40,7 @@ std::optional<ErrorNumber> fileErrorNumber(sqlite3* storage, int code) {
     case SQLITE_PERM:
         return ErrorNumber::CannotOpen;
     case SQLITE_IOERR:
-        return inputOutputNumber(storage);
+        return inputOutputNumber(extendedCode);
     case SQLITE_TOOBIG:
         return ErrorNumber::FieldTooSmall;
     default:
@@ -75,14 +72,13 @@ std::optional<Error> decodeError(std::string_view text) {
 
 void raiseStorageError(sqlite3* storage) {
     const int extendedCode = sqlite3_extended_errcode(storage);
-    const int code = extendedCode & 0xff;
     const std::string message = sqlite3_errmsg(storage);
     if (const auto error = decodeError(message)) throw *error;
-    if (code == SQLITE_CONSTRAINT) {
+    if ((extendedCode & 0xff) == SQLITE_CONSTRAINT) {
         const ErrorNumber number = constraintNumber(extendedCode);
         raise(number, number == ErrorNumber::ValueRequired ? fieldOfConstraint(message) : std::string());
     }
-    if (const auto number = fileErrorNumber(storage, code)) raise(*number);
+    if (const auto number = fileErrorNumber(extendedCode)) raise(*number);
     if (message == "integer overflow") raise(ErrorNumber::Overflow);
     raise(ErrorNumber::Internal, message);
 }
