@@ -77,7 +77,7 @@ std::vector<std::size_t> Recordset::State::assignedSources() const {
     for (std::size_t i = 0; i < rows.width; ++i)
         if (assigned[i]) sources.push_back(static_cast<std::size_t>(plan->columns[i].source));
     std::ranges::sort(sources);
-    sources.erase(std::ranges::unique(sources).begin(), sources.end());
+    sources.erase(std::unique(sources.begin(), sources.end()), sources.end());
     return sources;
 }
 

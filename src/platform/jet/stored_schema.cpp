@@ -235,7 +235,7 @@ std::vector<IndexDef> readIndexes(sqlite3* storage, const Table& table) {
         indexes.push_back(indexDef(storage, table, row, primaryName));
     const bool hasPrimary = std::ranges::any_of(indexes, &IndexDef::Primary);
     if (!hasPrimary && !table.keyColumns.empty()) indexes.push_back(counterIndex(table));
-    std::ranges::stable_partition(indexes, &IndexDef::Primary);
+    std::stable_partition(indexes.begin(), indexes.end(), [](const IndexDef& index) { return index.Primary; });
     return indexes;
 }
 
