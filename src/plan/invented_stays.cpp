@@ -40,18 +40,15 @@ Markierung Gast(int id, std::mt19937& random) {
 ErfundeneBelegung::ErfundeneBelegung(int rooms, int days, int stays, basic::Date start) {
     std::mt19937 random(1);
     const int perRoom = rooms > 0 ? (stays + rooms - 1) / rooms : 0;
-    const int pitch = std::max((days + 7) / std::max(perRoom, 1), 1);
+    const auto slotStart = [&](int slot) { return start + (slot * (days + 7) / std::max(perRoom, 1) - 7); };
     for (int i = 0; i < stays && rooms > 0; ++i) {
         auto m = Gast(i + 1, random);
         const int slot = i / rooms;
         m.Zimmernummer = i % rooms + 1;
-        const int nights = std::max(pitch - static_cast<int>(random() % 2), 1);
-        m.Von = start + (slot * pitch - 7 + static_cast<int>(random() % 2));
-        m.Bis = std::min(m.Von + nights, start + ((slot + 1) * pitch - 7));
-        if (m.Bis <= m.Von) m.Bis = m.Von + 1;
+        m.Von = slotStart(slot) + static_cast<int>(random() % 2);
+        m.Bis = std::max(slotStart(slot + 1) - static_cast<int>(random() % 2), m.Von + 1);
         m.Gelöscht = random() % Wartende == 0;
         m.Checked = !m.Gelöscht && !m.Angebot && m.Von <= start + 2 && m.Bis > start + 2;
-        m.NeueNummer = std::to_string(100 + m.Zimmernummer);
         all_.push_back(std::move(m));
     }
 }

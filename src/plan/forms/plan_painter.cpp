@@ -139,8 +139,9 @@ void PlanPainter::paintBarLabel(const Balken& bar, const QRect& rect) {
     const int inset = bar.Rahmen > 1 ? 5 : 4;
     const auto place = rect.adjusted(inset, 0, -inset + 1, 0);
     painter_.setFont(font(std::clamp(lineHeight_ * 45 / 100, 8, 13)));
-    const auto label = painter_.fontMetrics().elidedText(qt::text(bar.Kuerzel), Qt::ElideRight, place.width());
-    if (label.size() < 2) return;
+    const auto whole = qt::text(bar.Kuerzel);
+    const auto label = painter_.fontMetrics().elidedText(whole, Qt::ElideRight, place.width());
+    if (label != whole && label.size() < 4) return; // one or two letters and dots tell nothing
     const auto writing = [&](int column) {
         return colour(Schriftfarbe(grid_.Bild(grid_.Zelle(bar.Zeile, column)).Fuellung));
     };
