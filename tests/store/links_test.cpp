@@ -87,6 +87,12 @@ TEST(Links, ATableAddedLaterGetsItsLink) {
     EXPECT_TRUE(store::tableIsLinked(database, "tbNeu"));
     EXPECT_FALSE(store::tableIsLinked(database, "tbNeuer"));
     EXPECT_TRUE(database.OpenRecordset("tbNeu").Eof());
+    database.Close();
+    // nothing to link, nothing to point elsewhere
+    store::linkOrRefresh(house.workspace(), places, true, "tbLeer", "");
+    store::linkOrRefresh(house.workspace(), {}, true, "tbLeer", house.file("Herbergo.mdb"));
+    store::linkOrRefresh(house.workspace(), places, false, "tbLeer", house.file("Herbergo.mdb"));
+    EXPECT_FALSE(store::tableIsLinked(house.open("Lokal.mdb"), "tbLeer"));
 }
 
 TEST(Links, AnInstanceThatSharesAddressesReadsThoseOfTheMainProgram) {

@@ -49,6 +49,20 @@ TEST(NewHouse, TheSampleFileHasAllTablesOfItsOwn) {
     EXPECT_EQ(holidays.TableNames(), (std::vector<std::string>{"tbFeiertage", "tbPLZ"}));
 }
 
+TEST(NewHouse, TheSampleFileShowsAHouseInUse) {
+    TempFolder folder{TempFolder::Place::Memory};
+    const services::FixedClock clock(support::day(15, 6));
+    const jet::Workspace workspace(clock);
+    store::createHouse(workspace, {folder.path().string(), clock.now()});
+    jet::Database sample = workspace.OpenDatabase(folder.file("Beispiel.mdb"), false, false, store::openConnect());
+    // what brings the sample up to date goes by the first row
+    EXPECT_EQ(sample.OpenRecordset("tblBelegung").Fields("Von").Value(), Value(clock.today()));
+    EXPECT_EQ(sample.OpenRecordset("SELECT F1 FROM tblParameter WHERE Satz = 'ZeitDarstellung'").Fields(0).Value(),
+              Value("35"));
+    jet::Database own = workspace.OpenDatabase(folder.file("Lokal.mdb"), false, false, store::openConnect());
+    EXPECT_TRUE(own.OpenRecordset("tblBelegung").Eof());
+}
+
 TEST(NewHouse, StartsWithListsButWithoutRoomsAndSettings) {
     TestHouse house;
     EXPECT_EQ(house.value("SELECT Länder FROM tbLänder WHERE (((Länder)='Deutschland'))"), Value("Deutschland"));

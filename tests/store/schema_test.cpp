@@ -132,18 +132,25 @@ TEST(Schema, ARateWithoutNumberGetsTheNextOne) {
     EXPECT_EQ(house.value("SELECT IDSteuerschluessel FROM tbSteuerschluessel WHERE Steuersatz = 5"), Value(9));
 }
 
+/// Number of the error that a second row of this name gives.
+int errorOfSecond(TestHouse& house, std::string_view table, std::string_view key, std::string_view name) {
+    jet::Recordset rows = house.db().OpenRecordset(table);
+    rows.AddNew();
+    rows.Fields(key) = name;
+    try {
+        rows.Update();
+        return 0;
+    } catch (const jet::Error& error) {
+        return error.number();
+    }
+}
+
 TEST(Schema, RecordsAndBlocksOfTextHaveOneRowEach) {
     TestHouse house;
     house.parameter("Räumlichkeiten", {"9"});
-    jet::Recordset records = house.db().OpenRecordset("tblParameter");
-    records.AddNew();
-    records.Fields("Satz") = "RÄUMLICHKEITEN";
-    try {
-        records.Update();
-        FAIL() << "a second record under one name";
-    } catch (const jet::Error& error) {
-        EXPECT_EQ(error.number(), 3022);
-    }
+    EXPECT_EQ(errorOfSecond(house, "tblParameter", "Satz", "RÄUMLICHKEITEN"), 3022);
+    house.db().Execute("INSERT INTO tblTexte ( Textbaustein, Inhalt ) values( 'Bank', 'Sparkasse')");
+    EXPECT_EQ(errorOfSecond(house, "tblTexte", "Textbaustein", "bank"), 3022);
     // lists without a key may say a thing twice
     house.db().Execute("INSERT INTO tblTarife ( Tarif ) values( '50,00')");
     house.db().Execute("INSERT INTO tblTarife ( Tarif ) values( '50,00')");
