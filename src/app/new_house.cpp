@@ -11,11 +11,11 @@ constexpr int kFailed = 1;
 constexpr int kWrongCall = 2;
 
 void makeGerman(CLI::App& app) {
-    app.set_help_flag("--help,-h", "Zeigt diese Hilfe");
+    app.option_defaults()->group("Optionen");
+    app.set_help_flag("--help,-h", "Zeigt diese Hilfe")->group("Optionen");
     const auto formatter = app.get_formatter();
     formatter->label("Usage", "Aufruf");
     formatter->label("OPTIONS", "OPTIONEN");
-    formatter->label("Options", "Optionen");
     formatter->label("Positionals", "Argumente");
     formatter->label("REQUIRED", "(notwendig)");
     formatter->label("TEXT", "");
