@@ -55,7 +55,7 @@ TEST(OpenFile, NamesWhatIsNoDataFile) {
     };
     for (const auto& [name, number] : cases) {
         const std::string before = support::fileBytes(house.file(name));
-        EXPECT_EQ(number, errorNumber([&] { std::ignore = house.open(name); })) << name;
+        EXPECT_EQ(number, errorNumber([&, &file = name] { std::ignore = house.open(file); })) << name;
         EXPECT_EQ(before, support::fileBytes(house.file(name))) << name;
     }
     EXPECT_FALSE(std::filesystem::exists(house.file("fehlt.mdb")));
