@@ -99,7 +99,7 @@ bool Connection::waitOn(int attempts) {
 
 Plan Connection::translate(Parsed& parsed, Identities identities) {
     const auto compiled = std::make_shared<const Compiled>(compile(parsed, shape_.literals, catalogue(), identities));
-    return {compiled, prepareStatement(storage(), compiled->sql), identities, {}};
+    return {compiled, prepareStatement(storage(), compiled->sql), identities, std::make_shared<PlanUse>(), {}};
 }
 
 /// A table or field that is not known may have come with another station's change, or with a link that was set through
@@ -169,7 +169,8 @@ std::optional<RowBlock> Connection::tryRows(const Plan& plan, bool lastTry) {
     bindSlots(plan);
     const ResetGuard reset(plan.statement.get());
     try {
-        RowBlock rows = readRows(plan.statement.get(), *plan.compiled);
+        RowBlock rows = readRows(plan.statement.get(), *plan.compiled, plan.use->lastRowCount);
+        plan.use->lastRowCount = rows.count;
         if (lastTry || !wasOutdated(plan.statement.get())) return rows;
     } catch (const Error& error) {
         sqlite3_reset(plan.statement.get());
@@ -183,8 +184,7 @@ RowsOfPlan Connection::query(std::string_view sql, Identities identities) {
     scanShape(sql, shape_);
     for (bool lastTry = false;; lastTry = true) {
         const Plan& plan = planForRows(sql, identities);
-        const std::shared_ptr<const Compiled> compiled = plan.compiled;
-        if (auto rows = tryRows(plan, lastTry)) return {compiled, std::move(*rows)};
+        if (auto rows = tryRows(plan, lastTry)) return {plan.compiled, plan.use, std::move(*rows)};
         dropStatements();
     }
 }

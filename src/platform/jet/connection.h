@@ -32,6 +32,7 @@ struct OpenOptions {
 /// The rows of a SELECT with what they are.
 struct RowsOfPlan {
     std::shared_ptr<const Compiled> plan;
+    std::shared_ptr<PlanUse> use;
     RowBlock rows;
 };
 

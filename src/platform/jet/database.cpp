@@ -5,6 +5,8 @@
 #include "platform/jet/definitions.h"
 #include "platform/jet/stored_schema.h"
 
+#include <algorithm>
+
 namespace jet {
 
 namespace {
@@ -21,11 +23,22 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
+/// Told by its first word, so that a statement is not looked up among the tables.
+bool isSelect(std::string_view text) {
+    constexpr std::string_view word = "select";
+    constexpr std::string_view afterWord = " \t\r\n([*'\"";
+    const auto sameLetter = [](char given, char lower) { return given == lower || given == lower - 'a' + 'A'; };
+    return text.size() > word.size() && afterWord.find(text[word.size()]) != std::string_view::npos &&
+           std::equal(word.begin(), word.end(), text.begin(),
+                      [&](char lower, char given) { return sameLetter(given, lower); });
+}
+
 /// The table that a source names, when it is a table's name and no statement.
 std::optional<std::string> tableNameIn(Connection& connection, std::string_view source) {
     constexpr std::size_t longestName = 200;
     std::string_view name = trimmed(source);
     if (name.size() > longestName || name.empty()) return std::nullopt;
+    if (isSelect(name)) return std::nullopt;
     const bool bracketed = name.front() == '[' && name.find(']') == name.size() - 1;
     if (bracketed) return std::string(name.substr(1, name.size() - 2));
     const bool oneWord = name.find_first_of(" \t\r\n()[]") == std::string_view::npos;

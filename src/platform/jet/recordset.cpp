@@ -47,6 +47,7 @@ void Recordset::State::read() {
     const auto identities = type == RecordsetType::Dynaset ? Identities::Include : Identities::Omit;
     RowsOfPlan result = connection->query(select, identities);
     plan = std::move(result.plan);
+    use = std::move(result.use);
     rows = std::move(result.rows);
     deleted.clear();
     deletedCount = 0;

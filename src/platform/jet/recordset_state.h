@@ -17,6 +17,7 @@ struct Recordset::State {
     std::string select;
     RecordsetType type = RecordsetType::Dynaset;
     std::shared_ptr<const Compiled> plan;
+    std::shared_ptr<PlanUse> use; ///< shared with other recordsets of the plan
     RowBlock rows;
 
     std::size_t current = 0;
@@ -30,18 +31,6 @@ struct Recordset::State {
     std::vector<Value> pending; ///< the record being added or edited, one value for each column
     std::vector<bool> assigned;
 
-    /// The write made last: a loop of writes of one kind finds its statement without its text.
-    struct LastWrite {
-        sqlite3_stmt* statement = nullptr;
-        std::uint64_t generation = 0;
-        std::size_t source = 0;
-        Mode mode = Mode::Reading;
-        std::vector<bool> assigned;
-        std::vector<std::size_t> written; ///< columns that are assigned, in the order of the parameters
-        std::vector<std::size_t> shown;   ///< columns that the row must still show
-    };
-    LastWrite lastWrite;
-
     void read();
     void requireOpen() const;
     [[nodiscard]] bool isDeleted(std::size_t row) const { return !deleted.empty() && deleted[row]; }
@@ -51,9 +40,7 @@ struct Recordset::State {
     void standOn(std::optional<std::size_t> row, bool& otherwise);
     void dropPending();
     [[nodiscard]] std::size_t ordinal(std::string_view name) const;
-    [[nodiscard]] const Value& value(std::size_t row, std::size_t column) const {
-        return rows.values[row * rows.width + column];
-    }
+    [[nodiscard]] const Value& value(std::size_t row, std::size_t column) const { return rows.row(row)[column]; }
     [[nodiscard]] const Value& valueAt(std::size_t column) const;
 
     // writing
@@ -72,11 +59,11 @@ private:
     [[nodiscard]] std::vector<std::size_t> assignedSources() const;
     [[nodiscard]] std::vector<std::size_t> assignedColumns(std::size_t source) const;
     [[nodiscard]] std::vector<std::size_t> shownColumns(std::size_t source) const;
-    [[nodiscard]] std::int64_t identity(std::size_t row, std::size_t source) const;
-    [[nodiscard]] const LastWrite& prepareWrite(std::size_t source);
+    [[nodiscard]] const PlannedWrite& prepareWrite(std::size_t source);
+    [[nodiscard]] PlannedWrite planWrite(PlannedWrite::Kind kind, std::size_t source) const;
     [[nodiscard]] std::string fieldName(std::size_t column) const;
     [[nodiscard]] std::string insertText(std::size_t source, const std::vector<std::size_t>& written) const;
-    [[nodiscard]] std::string updateText(std::size_t source, const LastWrite& write) const;
+    [[nodiscard]] std::string updateText(std::size_t source, const PlannedWrite& write) const;
     [[nodiscard]] std::string conditionText(const std::vector<std::size_t>& shown, int firstParameter) const;
     int bindColumns(sqlite3_stmt* statement, int index, const std::vector<std::size_t>& columns,
                     const Value* record) const;

@@ -37,8 +37,8 @@ void Recordset::State::beginAdd() {
 
 void Recordset::State::beginEdit() {
     requireUpdatable();
-    const auto first = rows.values.begin() + static_cast<std::ptrdiff_t>(requireRow() * rows.width);
-    pending.assign(first, first + static_cast<std::ptrdiff_t>(rows.width));
+    const Value* record = rows.row(requireRow());
+    pending.assign(record, record + rows.width);
     assigned.assign(rows.width, false);
     mode = Mode::Editing;
 }
@@ -49,7 +49,7 @@ void Recordset::State::assign(std::size_t column, const Value& value) {
     if (output.source < 0) raise(ErrorNumber::NotUpdatable, output.name.text());
     const auto source = static_cast<std::size_t>(output.source);
     const Column& field = columnOf(*plan, output);
-    if (mode == Mode::Editing && identity(current, source) == RowBlock::noIdentity)
+    if (mode == Mode::Editing && rows.identity(current, source) == RowBlock::noIdentity)
         raise(ErrorNumber::NoCurrentRecord, output.name.text());
     if (mode == Mode::Editing && field.counter) raise(ErrorNumber::NotUpdatable, output.name.text());
     pending[column] = storedValue(field, value);
@@ -66,10 +66,6 @@ std::size_t Recordset::State::firstOf(std::size_t column) const {
     for (std::size_t i = 0; i < column; ++i)
         if (plan->columns[i].source == output.source && plan->columns[i].column == output.column) return i;
     return column;
-}
-
-std::int64_t Recordset::State::identity(std::size_t row, std::size_t source) const {
-    return rows.identities[row * rows.identityWidth + source];
 }
 
 std::vector<std::size_t> Recordset::State::assignedSources() const {
@@ -123,7 +119,7 @@ std::string Recordset::State::conditionText(const std::vector<std::size_t>& show
     return text;
 }
 
-std::string Recordset::State::updateText(std::size_t source, const LastWrite& write) const {
+std::string Recordset::State::updateText(std::size_t source, const PlannedWrite& write) const {
     std::string text = "UPDATE " + qualifiedTable(*plan, source) + " SET ";
     int index = 0;
     for (const std::size_t column : write.written) {
@@ -141,16 +137,28 @@ int Recordset::State::bindColumns(sqlite3_stmt* statement, int index, const std:
     return index;
 }
 
-const Recordset::State::LastWrite& Recordset::State::prepareWrite(std::size_t source) {
-    const bool same = lastWrite.statement != nullptr && lastWrite.generation == connection->statementGeneration() &&
-                      lastWrite.source == source && lastWrite.mode == mode && lastWrite.assigned == assigned;
-    if (same) return lastWrite;
-    LastWrite write{nullptr, 0, source, mode, assigned, assignedColumns(source), shownColumns(source)};
-    const std::string text = mode == Mode::Adding ? insertText(source, write.written) : updateText(source, write);
-    write.statement = connection->keptStatement(text);
+PlannedWrite Recordset::State::planWrite(PlannedWrite::Kind kind, std::size_t source) const {
+    PlannedWrite write{kind, source, assigned, nullptr, 0, assignedColumns(source), shownColumns(source)};
+    const bool isInsert = kind == PlannedWrite::Kind::Insert;
+    write.statement =
+        connection->keptStatement(isInsert ? insertText(source, write.written) : updateText(source, write));
     write.generation = connection->statementGeneration();
-    lastWrite = std::move(write);
-    return lastWrite;
+    return write;
+}
+
+/// Writes of one kind come in loops and in recordsets of the same plan: they find their statement without its text.
+const PlannedWrite& Recordset::State::prepareWrite(std::size_t source) {
+    constexpr std::size_t maxKept = 8;
+    const auto kind = mode == Mode::Adding ? PlannedWrite::Kind::Insert : PlannedWrite::Kind::Update;
+    const auto found = std::ranges::find_if(use->writes, [&](const PlannedWrite& write) {
+        return write.generation == connection->statementGeneration() && write.source == source && write.kind == kind &&
+               write.assigned == assigned;
+    });
+    if (found == use->writes.begin() && found != use->writes.end()) return *found;
+    PlannedWrite write = found == use->writes.end() ? planWrite(kind, source) : std::move(*found);
+    if (found != use->writes.end()) use->writes.erase(found);
+    if (use->writes.size() >= maxKept) use->writes.pop_back();
+    return *use->writes.insert(use->writes.begin(), std::move(write));
 }
 
 void Recordset::State::update() {
@@ -171,14 +179,13 @@ void Recordset::State::insertAll() {
         identities[source] = insert(source);
         completeInserted(source, identities[source]);
     }
-    rows.values.insert(rows.values.end(), pending.begin(), pending.end());
-    rows.identities.insert(rows.identities.end(), identities.begin(), identities.end());
-    lastModified = rows.count++;
+    lastModified = rows.count;
+    rows.append(std::move(pending), identities);
     if (!deleted.empty()) deleted.push_back(false);
 }
 
 std::int64_t Recordset::State::insert(std::size_t source) {
-    const LastWrite& write = prepareWrite(source);
+    const PlannedWrite& write = prepareWrite(source);
     bindColumns(write.statement, 0, write.written, pending.data());
     connection->write(write.statement, plan->sources[source].table->schema);
     return sqlite3_last_insert_rowid(connection->storage());
@@ -202,21 +209,21 @@ void Recordset::State::updateAll() {
 }
 
 void Recordset::State::updateSource(std::size_t source) {
-    const LastWrite& write = prepareWrite(source);
+    const PlannedWrite& write = prepareWrite(source);
     const int last = bindColumns(write.statement, 0, write.written, pending.data());
-    sqlite3_bind_int64(write.statement, last + 1, identity(current, source));
-    bindColumns(write.statement, last + 1, write.shown, &value(current, 0));
+    sqlite3_bind_int64(write.statement, last + 1, rows.identity(current, source));
+    bindColumns(write.statement, last + 1, write.shown, rows.row(current));
     if (connection->write(write.statement, plan->sources[source].table->schema) == 0) raiseLost(source);
 }
 
 /// An Update that assigns nothing still tells that the row has changed.
 void Recordset::State::requireUnchanged(std::size_t source) {
-    if (identity(current, source) == RowBlock::noIdentity) return;
+    if (rows.identity(current, source) == RowBlock::noIdentity) return;
     const std::vector<std::size_t> shown = shownColumns(source);
     const std::string text = "SELECT 1 FROM " + qualifiedTable(*plan, source) + conditionText(shown, 1);
     sqlite3_stmt* statement = connection->keptStatement(text);
-    sqlite3_bind_int64(statement, 1, identity(current, source));
-    bindColumns(statement, 1, shown, &value(current, 0));
+    sqlite3_bind_int64(statement, 1, rows.identity(current, source));
+    bindColumns(statement, 1, shown, rows.row(current));
     const ResetGuard reset(statement);
     if (!stepRow(statement)) raiseLost(source);
 }
@@ -224,21 +231,21 @@ void Recordset::State::requireUnchanged(std::size_t source) {
 void Recordset::State::raiseLost(std::size_t source) const {
     sqlite3_stmt* statement =
         connection->keptStatement("SELECT 1 FROM " + qualifiedTable(*plan, source) + " WHERE _rowid_ = ?1");
-    sqlite3_bind_int64(statement, 1, identity(current, source));
+    sqlite3_bind_int64(statement, 1, rows.identity(current, source));
     const ResetGuard reset(statement);
     raise(stepRow(statement) ? ErrorNumber::RowChanged : ErrorNumber::RowDeleted);
 }
 
 /// The new values in every row of a join that shows the same record.
 void Recordset::State::showEverywhere(std::size_t source) {
-    const std::int64_t changed = identity(current, source);
+    const std::int64_t changed = rows.identity(current, source);
     const bool once = rows.identityWidth == 1;
     const std::size_t first = once ? current : 0;
     const std::size_t last = once ? current + 1 : rows.count;
     for (std::size_t row = first; row < last; ++row) {
-        if (identity(row, source) != changed) continue;
+        if (rows.identity(row, source) != changed) continue;
         for (std::size_t i = 0; i < rows.width; ++i)
-            if (belongsTo(i, source)) rows.values[row * rows.width + i] = pending[i];
+            if (belongsTo(i, source)) rows.row(row)[i] = pending[i];
     }
 }
 
@@ -253,7 +260,7 @@ void Recordset::State::remove() {
     requireUpdatable();
     dropPending();
     const std::size_t row = requireRow();
-    const std::int64_t gone = identity(row, 0);
+    const std::int64_t gone = rows.identity(row, 0);
     if (gone == RowBlock::noIdentity) raise(ErrorNumber::NoCurrentRecord);
     sqlite3_stmt* statement =
         connection->keptStatement("DELETE FROM " + qualifiedTable(*plan, 0) + " WHERE _rowid_ = ?1");
@@ -261,7 +268,7 @@ void Recordset::State::remove() {
     if (connection->write(statement, plan->sources.front().table->schema) == 0) raise(ErrorNumber::RowDeleted);
     if (rows.identityWidth == 1) return markDeleted(row);
     for (std::size_t other = 0; other < rows.count; ++other)
-        if (identity(other, 0) == gone) markDeleted(other);
+        if (rows.identity(other, 0) == gone) markDeleted(other);
 }
 
 } // namespace jet

@@ -71,35 +71,31 @@ std::int64_t wholeNumber(sqlite3_stmt* statement, int column) {
     return found ? sqlite3_column_int64(statement, column) : RowBlock::noIdentity;
 }
 
-template <typename T>
-std::vector<T> reordered(std::vector<T>& values, std::size_t width, const std::vector<std::size_t>& order) {
-    std::vector<T> result;
-    result.reserve(values.size());
-    for (const std::size_t row : order) {
-        const auto first = values.begin() + static_cast<std::ptrdiff_t>(row * width);
-        std::move(first, first + static_cast<std::ptrdiff_t>(width), std::back_inserter(result));
-    }
-    return result;
-}
-
-/// Rows by their sort keys; those without one come first, as Null sorts.
+/// Rows by their sort keys; those without one come first, as Null sorts. The values stay where they are.
 void sortRows(RowBlock& rows, const std::vector<std::int64_t>& keys) {
     if (std::ranges::is_sorted(keys)) return;
-    std::vector<std::size_t> order(rows.count);
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::stable_sort(order, {}, [&](std::size_t row) { return keys[row]; });
-    rows.values = reordered(rows.values, rows.width, order);
-    rows.identities = reordered(rows.identities, rows.identityWidth, order);
+    rows.order.resize(rows.count);
+    std::iota(rows.order.begin(), rows.order.end(), std::size_t{0});
+    std::ranges::stable_sort(rows.order, {}, [&](std::size_t row) { return keys[row]; });
 }
 
 } // namespace
 
-RowBlock readRows(sqlite3_stmt* statement, const Compiled& compiled) {
+void RowBlock::append(std::vector<Value>&& record, const std::vector<std::int64_t>& recordIdentities) {
+    values.insert(values.end(), std::make_move_iterator(record.begin()), std::make_move_iterator(record.end()));
+    identities.insert(identities.end(), recordIdentities.begin(), recordIdentities.end());
+    if (!order.empty()) order.push_back(count);
+    ++count;
+}
+
+RowBlock readRows(sqlite3_stmt* statement, const Compiled& compiled, std::size_t expected) {
     RowBlock rows;
     std::vector<std::int64_t> sortKeys;
     const std::vector<int> identities = compiled.updatable ? identityColumns(compiled) : std::vector<int>();
     rows.width = compiled.columns.size();
     rows.identityWidth = identities.size();
+    rows.values.reserve(expected * rows.width);
+    rows.identities.reserve(expected * rows.identityWidth);
     while (stepRow(statement)) {
         int column = 0;
         for (const OutputColumn& output : compiled.columns)
