@@ -85,11 +85,12 @@ int Connection::onBusy(void* connection, int attempts) noexcept {
 }
 
 bool Connection::waitOn(int attempts) {
-    using namespace std::chrono;
+    using std::chrono::milliseconds;
+    using std::chrono::steady_clock;
     constexpr std::array pauses{1, 2, 5, 10, 15, 20, 25};
     const auto now = steady_clock::now();
     if (attempts == 0) waitStart_ = now;
-    const auto waited = duration_cast<milliseconds>(now - waitStart_);
+    const auto waited = std::chrono::duration_cast<milliseconds>(now - waitStart_);
     if (waited.count() >= settings_->lockTimeout) return false;
     if (settings_->waitCallback && !settings_->waitCallback(static_cast<int>(waited.count()))) return false;
     const auto pause = pauses[std::min(static_cast<std::size_t>(attempts), pauses.size() - 1)];
@@ -167,13 +168,13 @@ Plan* Connection::planForChange(std::string_view sql) {
 std::optional<RowBlock> Connection::tryRows(const Plan& plan, bool lastTry) {
     if (plan.compiled->kind != Compiled::Kind::Rows) raise(ErrorNumber::StatementKind);
     bindSlots(plan);
-    const ResetGuard reset(plan.statement.get());
     try {
+        const ResetGuard reset(plan.statement.get());
         RowBlock rows = readRows(plan.statement.get(), *plan.compiled, plan.use->lastRowCount);
         plan.use->lastRowCount = rows.count;
         if (lastTry || !wasOutdated(plan.statement.get())) return rows;
     } catch (const Error& error) {
-        sqlite3_reset(plan.statement.get());
+        // From here on the plan may be gone.
         if (lastTry || !reloadAfterUnknownName(error)) throw;
     }
     return std::nullopt;

@@ -78,9 +78,8 @@ FieldDef fieldOf(const ast::ColumnDef& definition) {
 }
 
 std::vector<std::string> texts(const std::vector<SqlName>& names) {
-    std::vector<std::string> result;
-    for (const SqlName& name : names)
-        result.push_back(name.text());
+    std::vector<std::string> result(names.size());
+    std::ranges::transform(names, result.begin(), &SqlName::text);
     return result;
 }
 

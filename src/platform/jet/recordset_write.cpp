@@ -224,8 +224,12 @@ void Recordset::State::requireUnchanged(std::size_t source) {
     sqlite3_stmt* statement = connection->keptStatement(text);
     sqlite3_bind_int64(statement, 1, rows.identity(current, source));
     bindColumns(statement, 1, shown, rows.row(current));
-    const ResetGuard reset(statement);
-    if (!stepRow(statement)) raiseLost(source);
+    bool unchanged = false;
+    {
+        const ResetGuard reset(statement);
+        unchanged = stepRow(statement);
+    }
+    if (!unchanged) raiseLost(source);
 }
 
 void Recordset::State::raiseLost(std::size_t source) const {

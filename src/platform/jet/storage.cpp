@@ -73,7 +73,7 @@ std::optional<Error> decodeError(std::string_view text) {
 void raiseStorageError(sqlite3* storage) {
     const int extendedCode = sqlite3_extended_errcode(storage);
     const std::string message = sqlite3_errmsg(storage);
-    if (const auto error = decodeError(message)) throw *error;
+    if (const auto error = decodeError(message)) throw Error(*error);
     if ((extendedCode & 0xff) == SQLITE_CONSTRAINT) {
         const ErrorNumber number = constraintNumber(extendedCode);
         raise(number, number == ErrorNumber::ValueRequired ? fieldOfConstraint(message) : std::string());

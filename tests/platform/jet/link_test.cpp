@@ -187,10 +187,17 @@ TEST_F(LinkedTables, AKnownChangeMeetsADroppedField) {
     jet::Database local = openLocal();
     const std::string change = "UPDATE tblBelegung SET Zimmernummer = 2";
     local.Execute(change);
+    EXPECT_EQ("Seeblick 1", allRows(local, joined + " OR tblBelegung.ID = 1"));
     {
         jet::Database home = house.open("Zentral.mdb", ";PWD=geheim77");
         home.Execute("DROP TABLE tblBelegung");
     }
+    EXPECT_EQ(3011, errorNumber([&] { std::ignore = allRows(local, joined + " OR tblBelegung.ID = 1"); }));
     EXPECT_EQ(3011, errorNumber([&] { local.Execute(change); }));
     EXPECT_EQ(3011, errorNumber([&] { std::ignore = allRows(local, joined); }));
+    {
+        jet::Database home = house.open("Zentral.mdb", ";PWD=geheim77");
+        home.Execute("CREATE TABLE tblBelegung (Neu LONG)");
+    }
+    EXPECT_EQ(3061, errorNumber([&] { local.Execute(change); }));
 }
