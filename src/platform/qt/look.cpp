@@ -48,7 +48,7 @@ QString fontFamily() {
 }
 
 void applyLook(QApplication& application) {
-    application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(palette());
     QFont font(fontFamily());
     font.setPixelSize(13);
