@@ -77,7 +77,7 @@ Station::~Station() {
     wait();
 }
 
-void Station::kill() { ::kill(process_, SIGKILL); }
+void Station::kill() const { ::kill(process_, SIGKILL); }
 
 int Station::wait() {
     int status = 0;

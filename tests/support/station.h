@@ -36,7 +36,7 @@ public:
 
     [[nodiscard]] Channel& channel() { return *channel_; }
     /// Ends it in the midst of what it does.
-    void kill();
+    void kill() const;
     /// Waits for its end: 0 when `work` returned, 1 when it threw (the text goes to standard error), -1 after a signal.
     int wait();
 

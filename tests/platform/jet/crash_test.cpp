@@ -29,13 +29,15 @@ void makeHouse(const JetFolder& house) {
 /// A workstation with a folder of its own for its link file.
 jet::Database openStation(const JetFolder& own, const JetFolder& house) {
     jet::Database local = own.create("Lokal.mdb", password);
+    std::vector<jet::TableDef> links;
     for (const auto& [table, file] : {std::pair{"tbRePosten", "Zentral.mdb"}, std::pair{"tbSumme", "Zentral.mdb"},
                                       std::pair{"tblParameter", "Herbergo.mdb"}}) {
         jet::TableDef link;
         link.Name = link.SourceTableName = table;
         link.Connect = ";DATABASE=" + house.file(file) + std::string(password);
-        local.AppendTableDef(link);
+        links.push_back(link);
     }
+    local.AppendTableDefs(links);
     return local;
 }
 
