@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <random>
 
 namespace bench {
 
@@ -12,7 +13,8 @@ namespace {
 /// Keys all over the house.
 int keyAt(const BenchHouse& house, int i) { return 1 + static_cast<int>(i * 7919LL % house.stays); }
 
-/// What is written where. A value that is there already would cost no writing, so no two in a row are the same.
+/// What is written where. The storage skips writing what is there already, so the values differ from those of all runs
+/// before.
 struct Change {
     int key;
     int guests;
@@ -23,11 +25,12 @@ public:
     explicit Changes(const BenchHouse& house) : house_(&house) {}
     [[nodiscard]] Change next() {
         ++count_;
-        return {.key = keyAt(*house_, count_), .guests = count_ % 30'011};
+        return {.key = keyAt(*house_, count_), .guests = (first_ + count_) % 30'011};
     }
 
 private:
     const BenchHouse* house_;
+    int first_ = static_cast<int>(std::random_device()() % 30'011);
     int count_ = 0;
 };
 

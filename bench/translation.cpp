@@ -14,10 +14,12 @@ public:
     Translator(jet::Connection& connection, const std::string& sql) {
         jet::Parsed parsed = jet::parse(sql);
         jet::scanShape(sql, shape_);
-        auto compiled = std::make_shared<const jet::Compiled>(
-            jet::compile(parsed, shape_.literals, connection.catalogue(), jet::Identities::Include));
-        jet::StatementHandle statement = jet::prepareStatement(connection.storage(), compiled->sql);
-        cache_.insert(shape_, {compiled, std::move(statement), jet::Identities::Include, {}});
+        jet::Plan plan;
+        plan.identities = jet::Identities::Include;
+        plan.compiled = std::make_shared<const jet::Compiled>(
+            jet::compile(parsed, shape_.literals, connection.catalogue(), plan.identities));
+        plan.statement = jet::prepareStatement(connection.storage(), plan.compiled->sql);
+        cache_.insert(shape_, std::move(plan));
     }
 
     void translateKnown(const std::string& sql) {
