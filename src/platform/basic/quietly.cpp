@@ -1,0 +1,13 @@
+#include "platform/basic/quietly.h"
+
+#include <cstdlib>
+#include <iostream>
+
+namespace basic {
+
+void traceError(const Error& error, const std::source_location& place) {
+    if (std::getenv("HERBERGO_TRACE") == nullptr) return;
+    std::cerr << error.number() << ": " << error.text() << " (" << place.file_name() << ':' << place.line() << ")\n";
+}
+
+} // namespace basic
