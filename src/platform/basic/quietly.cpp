@@ -5,9 +5,9 @@
 
 namespace basic {
 
-void traceError(const Error& error, const std::source_location& place) {
+void traceError(const Error& error, Place place) {
     if (std::getenv("HERBERGO_TRACE") == nullptr) return;
-    std::cerr << error.number() << ": " << error.text() << " (" << place.file_name() << ':' << place.line() << ")\n";
+    std::cerr << error.number() << ": " << error.text() << " (" << place.file << ':' << place.line << ")\n";
 }
 
 } // namespace basic

@@ -3,8 +3,13 @@
 #include <QApplication>
 #include <QFont>
 #include <QFontDatabase>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QTranslator>
+
+#include <memory>
 
 namespace qt {
 
@@ -45,6 +50,14 @@ QString fontFamily() {
     for (const auto* family : {"Liberation Sans", "DejaVu Sans"})
         if (installed.contains(QString::fromLatin1(family))) return QString::fromLatin1(family);
     return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+}
+
+void speakGerman(QApplication& application) {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) return;
+    translator->setParent(&application);
+    QApplication::installTranslator(translator.release());
 }
 
 void applyLook(QApplication& application) {

@@ -27,6 +27,9 @@ inline constexpr QColor alert{0xB4, 0x23, 0x18};
 /// Family of the program's type: the first one of a short list that is installed.
 [[nodiscard]] QString fontFamily();
 
+/// German texts on the toolkit's own buttons and dialogs. English ones where its translation is not installed.
+void speakGerman(QApplication& application);
+
 /// Style, palette and type of the whole program.
 void applyLook(QApplication& application);
 
