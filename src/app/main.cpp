@@ -1,37 +1,111 @@
-#include "app/house.h"
+#include "app/windows.h"
+#include "masterdata/rooms.h"
 #include "plan/forms/main_window.h"
+#include "plan/settings_reader.h"
+#include "platform/qt/desktop.h"
+#include "platform/qt/dialogs.h"
 #include "platform/qt/look.h"
-#include "platform/qt/notice.h"
+#include "platform/qt/settings.h"
+#include "start/forms/progress_window.h"
+#include "start/plan_load.h"
+#include "start/start_main.h"
 
-#include <CLI/CLI.hpp>
 #include <QApplication>
+
+#include <cstdlib>
+#include <memory>
 
 namespace {
 
-int run(const std::string& folder) {
+using start::Ladeergebnis;
+
+/// The plan window with what it stands on.
+struct Planfenster {
+    explicit Planfenster(start::GlobalState& g)
+        : source(g.dbHaupt), grid(settings(g), masterdata::ZimmerEinlesen(g.dbHaupt), source, g.clock),
+          form(grid, g.clock), window(loaded(form)) {
+        window.setWindowTitle(QString::fromStdString(start::Planüberschrift(g)));
+    }
+
+    /// The window shows what is loaded from its first painting on.
+    static plan::frmMain& loaded(plan::frmMain& form) {
+        form.Form_Load();
+        return form;
+    }
+
+    static plan::PlanEinstellungen settings(start::GlobalState& g) {
+        plan::PlanEinstellungen read = plan::PlanEinstellungenAus(g.einstellungen);
+        read.Zusatzspalten = masterdata::Zusatzspaltenbelegt(g.dbHaupt);
+        return read;
+    }
+
+    plan::PlanAusDatenbank source;
+    plan::Planraster grid;
+    plan::frmMain form;
+    plan::MainWindow window;
+};
+
+enum class Next { LoadAgain, End };
+
+Next runPlan(start::GlobalState& g) {
+    std::unique_ptr<Planfenster> window;
+    start::Ladeschritte steps;
+    steps.PlanAufbauen = [&] {
+        try {
+            window = std::make_unique<Planfenster>(g);
+        } catch (const jet::Error& error) {
+            g.dialogs.MsgBox(error.text(), {.icon = services::MsgIcon::Critical}, g.strTitel());
+        }
+    };
+    Ladeergebnis loaded = Ladeergebnis::Ende;
+    {
+        const start::frmMaskeAufbauen progress;
+        start::ProgressWindow progressWindow(progress);
+        progressWindow.appear();
+        loaded = start::PlanLaden(g, steps);
+    }
+    if (loaded == Ladeergebnis::Neuladen) return Next::LoadAgain;
+    if (loaded == Ladeergebnis::Ende || !window) return Next::End;
+    window->window.show();
+    QApplication::exec();
+    g.FormularGeladen = false;
+    return g.Neuaufbau ? Next::LoadAgain : Next::End;
+}
+
+std::string searchPath() {
+    const char* path = std::getenv("PATH");
+    return path == nullptr ? std::string() : path;
+}
+
+void run(const std::string& call) {
     const services::SystemClock clock;
-    app::House house(folder, clock);
-    plan::frmMain form(house.raster(), clock);
-    form.Form_Load();
-    plan::MainWindow window(form);
-    window.show();
-    return QApplication::exec();
+    const jet::Workspace workspace(clock);
+    qt::QtDialogs dialogs;
+    qt::IniSettings settings;
+    qt::DesktopShell shell;
+    const qt::LogonUser user;
+    app::QtWindows windows;
+    start::GlobalState g{.dialogs = dialogs,
+                         .settings = settings,
+                         .shell = shell,
+                         .user = user,
+                         .clock = clock,
+                         .windows = windows,
+                         .wsHaupt = workspace,
+                         .instanz = start::instanzVon(start::programmpfad(call, searchPath()))};
+    windows.serve(g);
+    if (start::Main(g) == start::Weg::Ende) return;
+    while (runPlan(g) == Next::LoadAgain) {
+    }
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App options("Herbergo: der Belegungsplan des Hauses");
-    std::string folder = "haus";
-    options.add_option("ORDNER", folder, "Ordner mit den Daten des Hauses")->capture_default_str();
-    CLI11_PARSE(options, argc, argv);
-
+    const std::string call = argc > 0 ? argv[0] : "";
     QApplication application(argc, argv);
+    qt::speakGerman(application);
     qt::applyLook(application);
-    try {
-        return run(folder);
-    } catch (const jet::Error& error) {
-        qt::showFailure("Herbergo", error.text());
-        return 1;
-    }
+    run(call);
+    return 0;
 }

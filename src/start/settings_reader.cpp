@@ -36,7 +36,21 @@ std::string wertVon(const Satz& satz, const Feld& feld, const basic::Value& gele
     return gelesen.textOr();
 }
 
-void anlegen(jet::Recordset& rows, const Satz& satz) {
+void vorgeben(Einstellungen& e, const Satz& satz) {
+    for (const Feld& feld : satz.Felder)
+        zuweisen(e, feld.ziel, feld.Vorgabe);
+}
+
+Fund einlesen(Einstellungen& e, jet::Database& db, const Satz& satz) {
+    jet::Recordset rows = db.OpenRecordset(abfrage(satz), jet::RecordsetType::Snapshot);
+    if (rows.Eof()) return Fund::Fehlt;
+    for (const Feld& feld : satz.Felder)
+        zuweisen(e, feld.ziel, wertVon(satz, feld, rows.Fields(feld.Name).Value()));
+    return Fund::Da;
+}
+
+void anlegen(jet::Database& db, const Satz& satz) {
+    jet::Recordset rows = db.OpenRecordset(abfrage(satz));
     rows.AddNew();
     rows.Fields(schlüsselfeld(satz)) = satz.Name;
     for (const Feld& feld : satz.Felder)
@@ -44,22 +58,12 @@ void anlegen(jet::Recordset& rows, const Satz& satz) {
     rows.Update();
 }
 
-Fund einlesen(Einstellungen& e, jet::Database& db, const Satz& satz) {
-    jet::Recordset rows = db.OpenRecordset(abfrage(satz));
-    if (!rows.Eof()) {
-        for (const Feld& feld : satz.Felder)
-            zuweisen(e, feld.ziel, wertVon(satz, feld, rows.Fields(feld.Name).Value()));
-        return Fund::Da;
-    }
-    if (satz.wennFehlt == WennFehlt::Anlegen) quietly([&] { anlegen(rows, satz); });
-    return Fund::Fehlt;
-}
-
 Fund satzLesen(GlobalState& g, const Satz& satz) {
-    for (const Feld& feld : satz.Felder)
-        zuweisen(g.einstellungen, feld.ziel, feld.Vorgabe);
+    vorgeben(g.einstellungen, satz);
     jet::Database& db = satz.ablage == Ablage::Arbeitsplatz ? g.dbArbeitsplatz : g.dbHaupt;
-    return quietly(Fund::Unlesbar, [&] { return einlesen(g.einstellungen, db, satz); });
+    const Fund fund = quietly(Fund::Unlesbar, [&] { return einlesen(g.einstellungen, db, satz); });
+    if (fund == Fund::Fehlt && satz.wennFehlt == WennFehlt::Anlegen) quietly([&] { anlegen(db, satz); });
+    return fund;
 }
 
 void einstellungenErfragen(GlobalState& g, const Satz& satz) {
@@ -121,18 +125,6 @@ void hilfeDarstellungFüllen(jet::Database& db) {
     }
 }
 
-void belegArtenLesen(GlobalState& g) {
-    constexpr std::size_t arten = 9;
-    g.einstellungen.BelegArtenNamen.assign(arten, "");
-    jet::Recordset rows =
-        g.dbHaupt.OpenRecordset("SELECT BelegungsID, BelegungsArt FROM tbBelegArten;", jet::RecordsetType::Snapshot);
-    for (; !rows.Eof(); rows.MoveNext()) {
-        const auto id = rows.Fields("BelegungsID").Value().longOr(-1);
-        if (id < 0 || id >= static_cast<std::int64_t>(arten)) continue;
-        g.einstellungen.BelegArtenNamen.at(static_cast<std::size_t>(id)) = rows.Fields("BelegungsArt").Value().textOr();
-    }
-}
-
 // The first run
 
 Ladeergebnis beispielZeigen(GlobalState& g, const Leseschritte& schritte) {
@@ -191,6 +183,18 @@ void bereinigen(Einstellungen& e) {
     e.ErsterTagDifferenz = std::clamp(e.ErsterTagDifferenz, 0, 255);
 }
 
+void belegArtenLesen(Einstellungen& e, jet::Database& db) {
+    constexpr std::size_t arten = 9;
+    e.BelegArtenNamen.assign(arten, "");
+    jet::Recordset rows =
+        db.OpenRecordset("SELECT BelegungsID, BelegungsArt FROM tbBelegArten;", jet::RecordsetType::Snapshot);
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const auto id = rows.Fields("BelegungsID").Value().longOr(-1);
+        if (id < 0 || id >= static_cast<std::int64_t>(arten)) continue;
+        e.BelegArtenNamen.at(static_cast<std::size_t>(id)) = rows.Fields("BelegungsArt").Value().textOr();
+    }
+}
+
 void verhaltenLesen(GlobalState& g, const Leseschritte& schritte) {
     quietly([&] { hilfeDarstellungFüllen(g.dbHaupt); });
     (void)abschnittLesen(g, Abschnitt::Verhalten);
@@ -203,7 +207,7 @@ void darstellungLesen(GlobalState& g) {
     arbeitsplatzÖffnen(g);
     for (const Abschnitt abschnitt : {Zeit, Darstellung, Farben, Nummern})
         (void)abschnittLesen(g, abschnitt);
-    quietly([&] { belegArtenLesen(g); });
+    quietly([&] { belegArtenLesen(g.einstellungen, g.dbHaupt); });
     std::error_code unreadable;
     g.einstellungen.PLZSuche = std::filesystem::exists(g.instanz.Datei(store::kHolidayFile), unreadable);
     (void)abschnittLesen(g, Rest);
@@ -219,6 +223,17 @@ Ladeergebnis lesen(GlobalState& g, const Leseschritte& schritte) {
 }
 
 } // namespace
+
+Einstellungen EinstellungenAnsehen(jet::Database& haupt, jet::Database& arbeitsplatz) {
+    Einstellungen e;
+    for (const Satz& satz : Satztabelle()) {
+        vorgeben(e, satz);
+        quietly([&] { (void)einlesen(e, satz.ablage == Ablage::Arbeitsplatz ? arbeitsplatz : haupt, satz); });
+    }
+    quietly([&] { belegArtenLesen(e, haupt); });
+    bereinigen(e);
+    return e;
+}
 
 Ladeergebnis EinstellungenLesen(GlobalState& g, const Leseschritte& schritte) {
     try {

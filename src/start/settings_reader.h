@@ -27,4 +27,8 @@ struct Leseschritte {
 /// (an unread house must not be taken for a new one), and when the user cancels.
 [[nodiscard]] Ladeergebnis EinstellungenLesen(GlobalState& g, const Leseschritte& schritte = {});
 
+/// The settings as they stand, for programs that only look at a house: nothing is asked and nothing is written. Without
+/// the record of the rooms there are none.
+[[nodiscard]] Einstellungen EinstellungenAnsehen(jet::Database& haupt, jet::Database& arbeitsplatz);
+
 } // namespace start

@@ -94,7 +94,7 @@ bool staysInWindow(const QFocusEvent& event) {
 
 } // namespace
 
-Binding::Binding(QWidget& window) : QObject(&window), window_(&window) {}
+Binding::Binding(QWidget& window) : QObject(&window) {}
 
 void Binding::refresh() {
     for (const Procedure& show : shows_)

@@ -70,7 +70,6 @@ private:
     void watch(QWidget& widget, TextEvents events);
     void leave(const Watched& watched);
 
-    QWidget* window_;
     bool running_ = false;
     std::vector<Procedure> shows_;
     std::vector<Procedure> afterRefresh_;

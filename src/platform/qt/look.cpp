@@ -36,6 +36,7 @@ QPalette palette() {
 
 constexpr auto styleSheet = R"(
 QToolTip { color: #1D2939; background: #FFFFFF; border: 1px solid #D3DAE3; padding: 4px; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPushButton { background: #FFFFFF; border: 1px solid #D3DAE3; border-radius: 5px; padding: 5px 10px; }
 QPushButton:hover { border-color: #1F6FB5; color: #1F6FB5; }
 QPushButton:pressed { background: #E6EFF8; }

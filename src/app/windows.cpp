@@ -1,0 +1,35 @@
+#include "app/windows.h"
+
+#include "start/address_form.h"
+#include "start/database_form.h"
+#include "start/forms/address_dialog.h"
+#include "start/forms/database_dialog.h"
+#include "start/global_state.h"
+
+#include <QApplication>
+
+#include <cassert>
+
+namespace app {
+
+using start::Fenster;
+
+bool QtWindows::has(Fenster fenster) const {
+    return fenster == Fenster::Datenbankpfade || fenster == Fenster::Adresshilfe;
+}
+
+start::PfadeErgebnis QtWindows::Datenbankpfade(const start::PfadeAnfrage& anfrage) {
+    start::frmDatenbank form(*state_, anfrage);
+    start::DatabaseDialog(form, QApplication::activeWindow()).exec();
+    return form.Ergebnis().value_or(start::PfadeErgebnis::ProgrammEnde);
+}
+
+start::Adresswahl QtWindows::Adresshilfe(const start::AdresshilfeAnfrage& anfrage) {
+    start::frmAdressHilfe form(state_->dialogs, state_->strTitel(), anfrage);
+    start::AddressDialog(form, QApplication::activeWindow()).exec();
+    return form.Ergebnis();
+}
+
+void QtWindows::Einstellungen(const start::EinstellungenAnfrage& /*anfrage*/) { assert(!"not there"); }
+
+} // namespace app

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "start/windows.h"
+
+namespace start {
+struct GlobalState;
+}
+
+namespace app {
+
+/// The windows of the program on Qt. Knows which of them are there.
+class QtWindows final : public start::Windows {
+public:
+    /// The state that the windows work on; it must outlive them. To be set before the first window opens.
+    void serve(start::GlobalState& state) { state_ = &state; }
+
+    [[nodiscard]] bool has(start::Fenster fenster) const override;
+    [[nodiscard]] start::PfadeErgebnis Datenbankpfade(const start::PfadeAnfrage& anfrage) override;
+    [[nodiscard]] start::Adresswahl Adresshilfe(const start::AdresshilfeAnfrage& anfrage) override;
+    void Einstellungen(const start::EinstellungenAnfrage& anfrage) override;
+
+private:
+    start::GlobalState* state_ = nullptr;
+};
+
+} // namespace app

@@ -1,0 +1,145 @@
+#include "platform/qt/bind.h"
+#include "start/forms/address_dialog.h"
+#include "start/forms/database_dialog.h"
+#include "start/forms/progress_window.h"
+#include "support/test_start.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+namespace start {
+namespace {
+
+using support::TestStart;
+
+template <typename T>
+T& find(QWidget& window, const char* name) {
+    auto* widget = window.findChild<T*>(QString::fromLatin1(name));
+    EXPECT_NE(widget, nullptr) << name;
+    return *widget;
+}
+
+void press(QWidget& window, const char* name) { QTest::mouseClick(&find<QPushButton>(window, name), Qt::LeftButton); }
+
+TEST(DatabaseDialog, ChoosesSavesAndCloses) {
+    TestStart s;
+    s.house("netz");
+    s.house();
+    frmDatenbank form(s.g, {.beimStart = true});
+    DatabaseDialog dialog(form);
+    dialog.show();
+    EXPECT_EQ(find<QLabel>(dialog, "lblPfad").text(), QStringLiteral("Quelldaten (Herbergo.mdb)"));
+    s.dialogs.type(s.file("netz/Herbergo.mdb"));
+    s.dialogs.type(s.file("netz/Zentral.mdb"));
+    press(dialog, "cmdPfad");
+    press(dialog, "cmdZentral");
+    EXPECT_EQ(find<QLineEdit>(dialog, "txtPfad").text().toStdString(), s.file("netz/Herbergo.mdb"));
+    EXPECT_TRUE(dialog.isVisible());
+    press(dialog, "cmdSpeichern");
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(form.Ergebnis(), PfadeErgebnis::Weiter);
+}
+
+TEST(DatabaseDialog, ClosingTheWindowIsTheCancelButton) {
+    TestStart s;
+    frmDatenbank form(s.g, {.beimStart = true});
+    DatabaseDialog dialog(form);
+    dialog.show();
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(form.Ergebnis(), PfadeErgebnis::ProgrammEnde);
+}
+
+TEST(AddressDialog, OffersSharedAddressesOnlyWhereThereAreAny) {
+    support::ScriptedDialogs dialogs;
+    frmAdressHilfe alone(dialogs, "Herbergo", {});
+    AddressDialog dialog(alone);
+    EXPECT_FALSE(find<QRadioButton>(dialog, "opAdressen1").isEnabled());
+    EXPECT_TRUE(find<QRadioButton>(dialog, "opAdressen0").isChecked());
+
+    frmAdressHilfe form(dialogs, "Herbergo", {.HauptprogrammErreichbar = true});
+    AddressDialog both(form);
+    both.show();
+    dialogs.acknowledge();
+    QTest::mouseClick(&find<QRadioButton>(both, "opAdressen1"), Qt::LeftButton, {}, QPoint(8, 8));
+    press(both, "cmdOK");
+    EXPECT_FALSE(both.isVisible());
+    EXPECT_EQ(form.Ergebnis(), Adresswahl::AdrAusBel);
+}
+
+TEST(ProgressWindow, CannotBeClosedByHand) {
+    const frmMaskeAufbauen form;
+    ProgressWindow window(form);
+    window.appear();
+    EXPECT_EQ(find<QLabel>(window, "lblText").text(),
+              QStringLiteral("Bitte haben Sie etwas Geduld. Die Daten werden gelesen."));
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_TRUE(window.isVisible());
+}
+
+// The event contract
+
+struct Form : QWidget {
+    services::TextBox first;
+    services::TextBox second;
+    QLineEdit firstEdit{this};
+    QLineEdit secondEdit{this};
+    qt::Binding binding{*this};
+    int changes = 0;
+    int leaves = 0;
+
+    Form() {
+        secondEdit.move(0, 40);
+        binding.bind(firstEdit, first,
+                     {.change = [this] { ++changes; },
+                      .leave =
+                          [this] {
+                              ++leaves;
+                              secondEdit.setFocus(); // as a message box takes the focus, and gives it back
+                              firstEdit.setFocus();
+                              return first.Text == "voll" ? services::Leave::Go : services::Leave::Stay;
+                          },
+                      .key = [](int key) { return key == Qt::Key_Semicolon; }});
+        binding.bind(secondEdit, second);
+        binding.refresh();
+        show();
+        QApplication::setActiveWindow(this);
+        firstEdit.setFocus();
+    }
+};
+
+TEST(Binding, AssigningFiresNothingAndTypingFiresOnce) {
+    Form f;
+    f.first.Text = "abc";
+    f.binding.refresh();
+    EXPECT_EQ(f.firstEdit.text(), QStringLiteral("abc"));
+    EXPECT_EQ(f.changes, 0);
+    f.firstEdit.setCursorPosition(1);
+    QTest::keyClick(&f.firstEdit, Qt::Key_X);
+    EXPECT_EQ(f.first.Text, "axbc");
+    EXPECT_EQ(f.changes, 1);
+    EXPECT_EQ(f.firstEdit.cursorPosition(), 2); // a refresh leaves the cursor where it is
+    QTest::keyClicks(&f.firstEdit, QStringLiteral(";"));
+    EXPECT_EQ(f.first.Text, "axbc");
+}
+
+TEST(Binding, LeavingCallsOnceAndMayKeepTheFocus) {
+    Form f;
+    f.secondEdit.setFocus();
+    QTest::qWait(0);
+    EXPECT_EQ(f.leaves, 1);
+    EXPECT_TRUE(f.firstEdit.hasFocus());
+    f.first.Text = "voll";
+    f.binding.refresh();
+    f.secondEdit.setFocus();
+    EXPECT_EQ(f.leaves, 2);
+}
+
+} // namespace
+} // namespace start
