@@ -6,7 +6,7 @@ namespace store {
 
 namespace {
 
-constexpr std::array<SampleGuest, 34> kGuests = {{
+constexpr std::array<SampleGuest, 42> kGuests = {{
     {"Frau", "Käthe", "Brinkmann", "Lindenallee 4", "28195", "Bremen", "0421 5550101"},
     {"Herr", "Jürgen", "Weiß", "Am Markt 12", "04109", "Leipzig", "0341 5550102"},
     {"Familie", "Anke", "Sommerfeld", "Birkenweg 7", "23552", "Lübeck", "0451 5550103"},
@@ -25,7 +25,7 @@ constexpr std::array<SampleGuest, 34> kGuests = {{
     {"Eheleute", "Werner", "Schäfer", "Am Anger 1", "37073", "Göttingen", "0551 5550116"},
     {"Frau", "Julia", "Neumann", "Goethestraße 77", "60313", "Frankfurt am Main", "069 5550117"},
     {"Herr", "Bernd", "Krüger", "Kirchgasse 10", "97070", "Würzburg", "0931 5550118"},
-    {"Firma", "", "Müller & Töchter OHG", "Industriering 14", "45127", "Essen", "0201 5550119"},
+    {"Firma", "", "Müller Druck OHG", "Industriering 14", "45127", "Essen", "0201 5550119"},
     {"Frau", "Claudia", "Böttcher", "Seestraße 29", "19053", "Schwerin", "0385 5550120"},
     {"Herr", "Uwe", "Grünwald", "Ringstraße 63", "93047", "Regensburg", "0941 5550121"},
     {"Herr", "Johann", "Huber", "Mariahilfer Straße 33", "1060", "Wien", "+43 1 5550122", "Österreich"},
@@ -41,6 +41,14 @@ constexpr std::array<SampleGuest, 34> kGuests = {{
     {"Herr", "Rolf", "Vogt", "Marktstraße 39", "55116", "Mainz", "06131 5550132"},
     {"Frau", "Elisabeth", "Wolter", "Am Deich 8", "26721", "Emden", "04921 5550133"},
     {"Firma", "", "Wanderfreunde Harz e. V.", "Brockenblick 1", "38855", "Wernigerode", "03943 5550134"},
+    {"Frau", "Annegret", "Vollmer", "Maximilianstraße 17", "86150", "Augsburg", "0821 5550135"},
+    {"Herr und Frau", "Klaus", "Reinhardt", "Simeonstraße 9", "54290", "Trier", "0651 5550136"},
+    {"Frau", "Lena", "Hartung", "Wagnergasse 26", "07743", "Jena", "03641 5550137"},
+    {"Herr", "Joachim", "Meinecke", "Obernstraße 41", "33602", "Bielefeld", "0521 5550138"},
+    {"Familie", "Katrin", "Determann", "Bierstraße 13", "49074", "Osnabrück", "0541 5550139"},
+    {"Herr", "Georg", "Lang", "Lange Straße 22", "96047", "Bamberg", "0951 5550140"},
+    {"Eheleute", "Hartmut", "Seidel", "Plöck 58", "69117", "Heidelberg", "06221 5550141"},
+    {"Frau", "Wiebke", "Harms", "Haarenstraße 30", "26122", "Oldenburg", "0441 5550142"},
 }};
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "platform/jet/workspace.h"
 #include "store/first_run.h"
 #include "store/rows.h"
+#include "store/sample_billing.h"
 #include "store/sample_guests.h"
 #include "store/sample_stays.h"
 
@@ -24,62 +25,71 @@ namespace {
 using basic::Date;
 using basic::Value;
 
-constexpr std::string_view kUser = "Beispiel";
-constexpr double kTaxRate = 7;
-
-/// Night prices by room number: default, high season, low season; the others stay unset.
-struct RoomPrices {
+/// Night prices by room number, what the room has besides, and the word under which a block's letter sums rooms up.
+struct RoomEquipment {
     double Preis;
     double Hauptsaison;
+    double Zwischensaison;
     double Nebensaison;
-};
-constexpr std::array<RoomPrices, 9> kPrices = {{{55, 65, 48},
-                                                {78, 90, 68},
-                                                {89, 105, 79},
-                                                {52, 62, 45},
-                                                {110, 129, 95},
-                                                {92, 109, 82},
-                                                {58, 68, 50},
-                                                {145, 169, 129},
-                                                {160, 189, 139}}};
-
-double nightPrice(const SampleStay& stay) { return kPrices.at(static_cast<std::size_t>(stay.Zimmernummer) - 1).Preis; }
-double totalPrice(const SampleStay& stay) { return nightPrice(stay) * stay.Nächte; }
-
-/// A stay with the numbers that it got.
-struct StayOnFile {
-    SampleStay stay;
-    std::int64_t ID;
-    std::int64_t GastID;
+    double Sondersaison;
+    std::string_view Kategorie;
+    int Zusatz1 = 0; ///< extra of the left column, 0 for none
+    int Zusatz2 = 0;
 };
 
-bool isBilled(const SampleStay& stay) {
-    return stay.Zustand == SampleState::Bezahlt || stay.Zustand == SampleState::Berechnet;
-}
-bool isInHouse(const SampleStay& stay) {
-    return stay.Zustand == SampleState::ImHaus || stay.Zustand == SampleState::Gehalten;
-}
+constexpr int kBalcony = 1;
+constexpr int kTerrace = 2;
+constexpr int kPets = 3;
+
+constexpr std::array<RoomEquipment, 9> kRooms = {{{55, 65, 59, 48, 72, "Einzelzimmer"},
+                                                  {78, 90, 84, 68, 98, "Doppelzimmer", 0, kPets},
+                                                  {89, 105, 96, 79, 115, "Doppelzimmer", kBalcony},
+                                                  {52, 62, 56, 45, 68, "Einzelzimmer", 0, kPets},
+                                                  {110, 129, 118, 95, 142, "Familienzimmer", kBalcony},
+                                                  {92, 109, 99, 82, 119, "Doppelzimmer", kBalcony},
+                                                  {58, 68, 62, 50, 75, "Einzelzimmer"},
+                                                  {145, 169, 155, 129, 189, "Doppelzimmer", kTerrace},
+                                                  {160, 189, 172, 139, 210, "Familienzimmer", kTerrace, kPets}}};
+
+double nightPrice(const SampleStay& stay) { return kRooms.at(static_cast<std::size_t>(stay.Zimmernummer) - 1).Preis; }
+int nightsOf(const SampleStay& stay) { return stay.Bis.dayNumber() - stay.Von.dayNumber(); }
+double totalPrice(const SampleStay& stay) { return nightPrice(stay) * nightsOf(stay); }
+
+const SampleGuest& guestOf(const SampleStay& stay) { return sampleGuests()[static_cast<std::size_t>(stay.Gast)]; }
 
 // --- source file
 
-void priceRooms(jet::Database& database) {
+Value extraOrNull(int extra) { return extra == 0 ? Value() : Value(extra); }
+
+void equipRooms(jet::Database& database) {
     jet::Recordset rooms = database.OpenRecordset("SELECT * FROM tbZimmernummern WHERE Zimmernummer < 10 ORDER BY "
                                                   "Zimmernummer");
-    for (const RoomPrices& prices : kPrices) {
+    for (const RoomEquipment& room : kRooms) {
         rooms.Edit();
-        rooms.Fields("PreisDefault") = prices.Preis;
-        rooms.Fields("PreisHauptsaison") = prices.Hauptsaison;
-        rooms.Fields("PreisNebensaison") = prices.Nebensaison;
+        rooms.Fields("PreisDefault") = room.Preis;
+        rooms.Fields("PreisHauptsaison") = room.Hauptsaison;
+        rooms.Fields("PreisZwischensaison") = room.Zwischensaison;
+        rooms.Fields("PreisNebensaison") = room.Nebensaison;
+        rooms.Fields("PreisSondersaison") = room.Sondersaison;
+        rooms.Fields("katBlockBuchung") = room.Kategorie;
+        rooms.Fields("Zusatz1") = extraOrNull(room.Zusatz1);
+        rooms.Fields("Zusatz2") = extraOrNull(room.Zusatz2);
         rooms.Update();
         rooms.MoveNext();
     }
 }
 
-void fillBlock(jet::Database& database, const std::vector<StayOnFile>& stays, Date now) {
+void fillCategories(jet::Database& database) {
+    jet::Recordset rows = database.OpenRecordset("tbKategorie");
+    for (const std::string_view word : {"Einzelzimmer", "Doppelzimmer", "Familienzimmer"})
+        addRow(rows, {{"blKategorie", word}});
+}
+
+void fillBlock(jet::Database& database, const std::vector<SampleStayOnFile>& stays, Date now) {
     jet::Recordset rows = database.OpenRecordset("tbBlockbuchung");
-    for (const StayOnFile& entry : stays) {
+    for (const SampleStayOnFile& entry : stays) {
         if (!entry.stay.Block) continue;
-        const SampleGuest& guest = sampleGuests()[static_cast<std::size_t>(entry.stay.Gast)];
+        const SampleGuest& guest = guestOf(entry.stay);
         addRow(rows, {{"IDBlockbuchung", 1},
                       {"IDBelegung", entry.ID},
                       {"WannAngelegt", now},
@@ -90,19 +100,27 @@ void fillBlock(jet::Database& database, const std::vector<StayOnFile>& stays, Da
 }
 
 void fillTariffs(jet::Database& database) {
-    std::set<std::int64_t> prices;
-    for (const RoomPrices& room : kPrices)
-        prices.insert(static_cast<std::int64_t>(room.Preis));
+    std::set<double> prices;
+    for (const RoomEquipment& room : kRooms)
+        prices.insert(room.Preis);
     jet::Recordset rows = database.OpenRecordset("tblTarife");
-    for (const std::int64_t price : prices)
+    for (const double price : prices)
         addRow(rows, {{"Tarif", basic::Format(price, "0.00")}});
 }
 
-void fillSourceFile(jet::Database& database, const std::vector<StayOnFile>& stays, Date now) {
+/// Stays with fewer guests than their room takes are drawn in a colour of their own, an amber.
+void nameSixthType(jet::Database& database) {
+    database.Execute("UPDATE tblParameter SET F6 = 'teilbelegt' WHERE Satz = 'Belegungsarten'");
+    database.Execute("UPDATE tblParameter SET F6 = '5621503' WHERE Satz = 'Farben'");
+}
+
+void fillSourceFile(jet::Database& database, const std::vector<SampleStayOnFile>& stays, Date now) {
     jet::Transaction transaction(database, "tbZimmernummern");
     writeDefaultRooms(database);
     writeDefaultParameters(database, false);
-    priceRooms(database);
+    nameSixthType(database);
+    equipRooms(database);
+    fillCategories(database);
     fillTariffs(database);
     fillBlock(database, stays, now);
     transaction.Commit();
@@ -110,34 +128,44 @@ void fillSourceFile(jet::Database& database, const std::vector<StayOnFile>& stay
 
 // --- shared file
 
-void fillSeasons(jet::Database& database, Date today) {
-    const int year = basic::partsOf(today).year;
-    jet::Recordset rows = database.OpenRecordset("tbSaisonzeiten");
-    for (int season = year - 1; season <= year + 1; ++season) {
-        addRow(rows, {{"Saisonbezeichnung", "Hauptsaison"},
-                      {"Start", Date::fromYmd(season, 6, 15)},
-                      {"Ende", Date::fromYmd(season, 9, 15)}});
-        addRow(rows, {{"Saisonbezeichnung", "Nebensaison"},
-                      {"Start", Date::fromYmd(season, 11, 1)},
-                      {"Ende", Date::fromYmd(season, 12, 20)}});
-    }
+void fillExtras(jet::Database& database) {
+    jet::Recordset rows = database.OpenRecordset("tbZusätze");
+    const auto add = [&](int number, std::string_view sign, std::string_view meaning, int colour, int column) {
+        addRow(rows, {{"ZusatzFeld", number},
+                      {"Beschriftung", sign},
+                      {"Bedeutung", meaning},
+                      {"Farbe", colour},
+                      {"Spalte", column}});
+    };
+    add(kBalcony, "B", "Balkon", 0xB9E3C6, 1);
+    add(kTerrace, "T", "Terrasse", 0x9FD8F2, 1);
+    add(kPets, "H", "Haustiere erlaubt", 0xE8CFAE, 2);
 }
 
-void fillTaxRatesAndArticles(jet::Database& database) {
-    jet::Recordset rates = database.OpenRecordset("tbSteuerschluessel");
-    const std::int64_t standard =
-        addCountedRow(rates, "IDSteuerschluessel", {{"Steuersatz", kTaxRate}, {"Standard", true}});
-    const std::int64_t full = addCountedRow(rates, "IDSteuerschluessel", {{"Steuersatz", 19}, {"Standard", false}});
-    jet::Recordset articles = database.OpenRecordset("tbArtKategorie");
-    addRow(
-        articles,
-        {{"ArtKategorie", "Frühstück"}, {"Preis", 9.5}, {"MWST_SL", full}, {"IstStandard", 1}, {"istVerpflegung", 1}});
-    addRow(
-        articles,
-        {{"ArtKategorie", "Getränke"}, {"Preis", 3.2}, {"MWST_SL", full}, {"IstStandard", 0}, {"istVerpflegung", 0}});
-    addRow(
-        articles,
-        {{"ArtKategorie", "Kurtaxe"}, {"Preis", 2}, {"MWST_SL", standard}, {"IstStandard", 0}, {"istVerpflegung", 0}});
+/// The day `Ende` is the first of what follows: every day of the years belongs to one season.
+void addYearOfSeasons(jet::Recordset& rows, int year) {
+    const auto add = [&](std::string_view name, Date start, Date end) {
+        addRow(rows, {{"Saisonbezeichnung", name}, {"Start", start}, {"Ende", end}});
+    };
+    const auto day = [&](int dayOfMonth, int month) { return Date::fromYmd(year, month, dayOfMonth); };
+    add("Nebensaison", day(7, 1), day(1, 4));
+    add("Zwischensaison", day(1, 4), day(15, 6));
+    add("Hauptsaison", day(15, 6), day(15, 9));
+    add("Zwischensaison", day(15, 9), day(1, 11));
+    add("Nebensaison", day(1, 11), day(20, 12));
+    add("Sondersaison", day(20, 12), Date::fromYmd(year + 1, 1, 7));
+}
+
+// They do not move with the stays when the sample is brought up to date, so they reach far.
+void fillSeasons(jet::Database& database) {
+    constexpr int firstYear = 2020;
+    constexpr int lastYear = 2035;
+    jet::Recordset rows = database.OpenRecordset("tbSaisonzeiten");
+    addRow(rows, {{"Saisonbezeichnung", "Sondersaison"},
+                  {"Start", Date::fromYmd(firstYear, 1, 1)},
+                  {"Ende", Date::fromYmd(firstYear, 1, 7)}});
+    for (int year = firstYear; year <= lastYear; ++year)
+        addYearOfSeasons(rows, year);
 }
 
 std::map<std::string, Value> numbersByName(jet::Database& database, std::string_view table, std::string_view number,
@@ -166,34 +194,57 @@ std::vector<std::int64_t> fillGuests(jet::Database& database, Date now) {
                                      {"IDLand", countries[std::string(guest.Country)]},
                                      {"Phone", guest.Phone},
                                      {"OwnerID", 0},
-                                     {"WerErstellt", kUser},
+                                     {"WerErstellt", "Tresen"},
                                      {"WannErstellt", now}}));
     return ids;
 }
 
-/// The short name that the reservation form proposes: six letters, arrival and departure, a counter where it is taken.
-std::string shortName(const SampleGuest& guest, Date von, Date bis, std::set<std::string>& taken) {
-    const std::string stem =
-        basic::Left(guest.LastName, 6) + basic::Format(von, "dd_mm") + "-" + basic::Format(bis, "dd_mm");
-    std::string name = stem;
-    for (int counter = 1; !taken.insert(name).second; ++counter)
-        name = stem + "/" + std::to_string(counter);
-    return name;
+/// The guest's last name by whole words, with a counter where he comes again. No day is part of it: the stays are moved
+/// to other days.
+std::string shortName(const SampleGuest& guest, std::map<std::string, int>& taken) {
+    constexpr std::int64_t longest = 14;
+    std::string name(guest.LastName);
+    while (basic::Len(name) > longest)
+        name.resize(name.find_last_of(' '));
+    const int count = ++taken[name];
+    return count == 1 ? name : name + " " + std::to_string(count);
 }
 
 int billingState(const SampleStay& stay) {
-    if (isBilled(stay)) return 1;
-    return stay.Zustand == SampleState::Gehalten ? 2 : 0;
+    switch (stay.Zustand) {
+    case SampleState::Bezahlt:
+    case SampleState::Berechnet:
+        return 1;
+    case SampleState::Gehalten:
+        return 2;
+    default:
+        return 0;
+    }
+}
+
+bool isInHouse(const SampleStay& stay) {
+    return stay.Zustand == SampleState::ImHaus || stay.Zustand == SampleState::Gehalten;
+}
+
+std::string_view childrensAges(const SampleStay& stay) {
+    constexpr std::array<std::string_view, 3> kAges = {"", "7", "4, 9"};
+    return kAges.at(static_cast<std::size_t>(stay.Kinder));
+}
+
+/// Two to seven weeks before the arrival, and not after the day on which the sample is made.
+Date dayOfBooking(const SampleStay& stay, int number, Date today) {
+    const Date day = stay.Von - (14 + number * 7 % 35);
+    return std::min(day, today);
 }
 
 std::int64_t addStay(jet::Recordset& rows, const SampleStay& stay, std::int64_t guest, const std::string& kürzel,
                      Date now) {
-    const Date von = now.day() + stay.Ankunft;
+    constexpr std::array<std::string_view, 3> kStaff = {"Meier", "Schulze", "Tresen"};
     const int number = rows.RecordCount() + 1;
     return addCountedRow(rows, "ID",
                          {{"Zimmernummer", stay.Zimmernummer},
-                          {"Von", von},
-                          {"Bis", von + stay.Nächte},
+                          {"Von", stay.Von},
+                          {"Bis", stay.Bis},
                           {"GastID", guest},
                           {"Kürzel", kürzel},
                           {"Belegungsart", stay.Belegungsart},
@@ -201,76 +252,44 @@ std::int64_t addStay(jet::Recordset& rows, const SampleStay& stay, std::int64_t 
                           {"Checked", isInHouse(stay)},
                           {"AnzahlGäste", stay.Gäste},
                           {"Anz_Kinder", stay.Kinder},
-                          {"AnzahlÜbernachtungen", stay.Nächte},
+                          {"Alter_Kinder", childrensAges(stay)},
+                          {"AnzahlÜbernachtungen", nightsOf(stay)},
                           {"PreisProNacht", nightPrice(stay)},
                           {"Preis", totalPrice(stay)},
-                          {"Frühstück", true},
+                          {"Zahlart", paymentKind(stay)},
+                          {"Frühstück", hasBreakfast(stay)},
+                          {"Abendessen", hasDinner(stay)},
                           {"BelegNummer", number},
                           {"BelegNummer_eigen", " " + basic::Format(number, "0000") + " "},
                           {"Abgerechnet", billingState(stay)},
                           {"Wäsche1", 6},
                           {"Wäsche2", 3},
-                          {"WerErstellt", kUser},
-                          {"WannErstellt", now - 60 + std::min(0, stay.Ankunft)}});
+                          {"WerErstellt", kStaff.at(static_cast<std::size_t>(number) % kStaff.size())},
+                          {"WannErstellt", dayOfBooking(stay, number, now.day())}});
 }
 
-std::vector<StayOnFile> fillStays(jet::Database& database, const std::vector<std::int64_t>& guests, Date now) {
+std::vector<SampleStayOnFile> fillStays(jet::Database& database, const std::vector<std::int64_t>& guests, Date now) {
     jet::Recordset rows = database.OpenRecordset("tblBelegung");
-    std::set<std::string> taken;
-    std::vector<StayOnFile> result;
-    for (const SampleStay& stay : sampleStays()) {
-        const auto guest = static_cast<std::size_t>(stay.Gast);
-        const Date von = now.day() + stay.Ankunft;
-        const std::string kürzel = shortName(sampleGuests()[guest], von, von + stay.Nächte, taken);
-        result.push_back({stay, addStay(rows, stay, guests.at(guest), kürzel, now), guests.at(guest)});
+    std::map<std::string, int> taken;
+    std::vector<SampleStayOnFile> result;
+    for (const SampleStay& stay : sampleStays(now.day())) {
+        const std::int64_t guest = guests.at(static_cast<std::size_t>(stay.Gast));
+        const std::string kürzel = shortName(guestOf(stay), taken);
+        result.push_back({stay, addStay(rows, stay, guest, kürzel, now), guest, totalPrice(stay)});
     }
     return result;
 }
 
-void addInvoice(jet::Recordset& documents, int number, const StayOnFile& entry, Date date) {
-    const double total = totalPrice(entry.stay);
-    addRow(documents, {{"ReNummer", number},
-                       {"Renummer_eigen", "R " + basic::Format(number, "0000") + " "},
-                       {"ReZaehler", number},
-                       {"IST_Rechnung", "R"},
-                       {"IDAdresseRe", entry.GastID},
-                       {"DatumRe", date},
-                       {"Zahlart", "Bar"},
-                       {"BetragBrutto", total},
-                       {"BetragMWST", total - total / (kTaxRate + 100) * 100},
-                       {"Anzahlung", "N"},
-                       {"Anz_Vor_Reise", "N"}});
-}
-
-void fillInvoices(jet::Database& database, const std::vector<StayOnFile>& stays, Date today) {
-    jet::Recordset documents = database.OpenRecordset("tbRechnungen");
-    jet::Recordset links = database.OpenRecordset("tbRechnungen_zu_Posten");
-    jet::Recordset payments = database.OpenRecordset("tbZahlung");
-    int number = 0;
-    for (const StayOnFile& entry : stays) {
-        if (!isBilled(entry.stay)) continue;
-        const Date departure = today + (entry.stay.Ankunft + entry.stay.Nächte);
-        addInvoice(documents, ++number, entry, departure);
-        addRow(links, {{"IDRechnung", number}, {"IDPostenRe", 0}, {"IDBelegung", entry.ID}, {"Reihenfolge", number}});
-        if (entry.stay.Zustand == SampleState::Bezahlt)
-            addRow(payments, {{"IdBelegung", entry.ID},
-                              {"IdRechnung", number},
-                              {"ZahlDatum", departure},
-                              {"Betrag", totalPrice(entry.stay)},
-                              {"Zahlart", "Bar"},
-                              {"WasBezahlt", "Gesamtzahlung"}});
-    }
-}
-
-std::vector<StayOnFile> fillSharedFile(jet::Database& database, Date now) {
+std::vector<SampleStayOnFile> fillSharedFile(jet::Database& database, Date now) {
     jet::Transaction transaction(database, "tblBelegung");
     writeDefaultTexts(database);
     writeDefaultTypes(database);
-    fillSeasons(database, now.day());
-    fillTaxRatesAndArticles(database);
+    database.Execute("UPDATE tbBelegArten SET BelegungsArt = 'teilbelegt' WHERE BelegungsID = 5");
+    fillExtras(database);
+    fillSeasons(database);
     const std::vector<std::int64_t> guests = fillGuests(database, now);
-    std::vector<StayOnFile> stays = fillStays(database, guests, now);
-    fillInvoices(database, stays, now.day());
+    std::vector<SampleStayOnFile> stays = fillStays(database, guests, now);
+    fillSampleBilling(database, stays, now.day());
     transaction.Commit();
     return stays;
 }
@@ -278,7 +297,7 @@ std::vector<StayOnFile> fillSharedFile(jet::Database& database, Date now) {
 } // namespace
 
 void fillSampleHouse(jet::Database& database, Date now) {
-    const std::vector<StayOnFile> stays = fillSharedFile(database, now);
+    const std::vector<SampleStayOnFile> stays = fillSharedFile(database, now);
     fillSourceFile(database, stays, now);
 }
 

@@ -1,31 +1,37 @@
 #pragma once
 
-#include <span>
+#include "platform/basic/date.h"
+
+#include <vector>
 
 namespace store {
 
 enum class SampleState {
-    Offen,         ///< firm, not in the house
+    Offen,         ///< firm or an offer, not in the house
     ImHaus,        ///< checked in
-    Warteschlange, ///< in the waiting row
+    Gehalten,      ///< in the house, billing held back
     Bezahlt,       ///< left, invoice written and paid
     Berechnet,     ///< left, invoice written, nothing paid
-    Gehalten,      ///< in the house, billing held back
+    Warteschlange, ///< in the waiting row
 };
 
 /// A stay of the sample house.
 struct SampleStay {
     int Zimmernummer;
-    int Ankunft; ///< days from today, negative for past days
-    int Nächte;
+    basic::Date Von;
+    basic::Date Bis;
     int Gast;         ///< place in sampleGuests()
     int Belegungsart; ///< 4 is an offer
     int Gäste;
-    int Kinder = 0;
-    SampleState Zustand = SampleState::Offen;
-    bool Block = false; ///< a member of the one block; the first is its leader
+    int Kinder;
+    SampleState Zustand;
+    bool Block;     ///< a member of the one block; the first is its leader
+    bool Angezahlt; ///< to come, and partly paid already
 };
 
-[[nodiscard]] std::span<const SampleStay> sampleStays();
+/// The stays as they lie around `today`, the first of them arriving on it. Most follow the days of the week: business
+/// guests come on Mondays, couples at the weekend, families from Saturday to Saturday. In a room no two share a night,
+/// but for those of the waiting row. Offers arrive after today.
+[[nodiscard]] std::vector<SampleStay> sampleStays(basic::Date today);
 
 } // namespace store
