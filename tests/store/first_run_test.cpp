@@ -35,6 +35,33 @@ TEST(FirstRun, ReplacesWhatWasThere) {
     EXPECT_EQ(parameter(house, "ZimVonBis", "F2"), Value("10"));
 }
 
+TEST(FirstRun, SeedsWhatTheOfficeStartsWith) {
+    TestHouse house;
+    store::writeDefaults(house.db(), false);
+    const auto all = [&](const std::string& sql) {
+        std::string text;
+        for (jet::Recordset rows = house.db().OpenRecordset(sql); !rows.Eof(); rows.MoveNext())
+            text += rows.Fields(0).Value().textOr("Null") + "|";
+        return text;
+    };
+    EXPECT_EQ(all("SELECT NeueNummer FROM tbZimmernummern"), "101|102|103|104|201|202|203|204|301|Vorläufig|");
+    EXPECT_EQ(all("SELECT BelegungsArt FROM tbBelegArten"), "Frei|Meier|Schulze|Tresen|Angebot|||||");
+    EXPECT_EQ(all("SELECT Textbaustein FROM tblTexte ORDER BY ID"),
+              "Absender1|Absender2|Absender3|Absender4|Absender5|Grußformel|Brieftext|Betreff|Adresse|Anrede|PLZ|"
+              "Telefon|FAX|EMAIL|Internet|Bank|Steuernummer|DruckAnzahl|WordProgramm|");
+    EXPECT_EQ(all("SELECT Satz FROM tblParameter ORDER BY Satz"),
+              "Belegungsarten|Beschriftungen|Farben|Räumlichkeiten|SpaltenBeschriftung|Spaltenbreiten|Währung|"
+              "ZeitDarstellung|ZimVonBis|");
+    // both lists name all columns of the guest list, no more
+    for (const std::string_view record : {"SpaltenBeschriftung", "Spaltenbreiten"}) {
+        EXPECT_FALSE(parameter(house, record, "F23").isNull());
+        EXPECT_TRUE(parameter(house, record, "F24").isNull());
+    }
+    EXPECT_EQ(parameter(house, "SpaltenBeschriftung", "F22"), Value("Vorläufige Reservierung"));
+    EXPECT_EQ(parameter(house, "Beschriftungen"), Value("Reserviert von:"));
+    EXPECT_EQ(parameter(house, "Zeitdarstellung", "F2"), Value("2"));
+}
+
 TEST(FirstRun, MayKeepTheNumberOfRooms) {
     struct Case {
         std::string_view before;
