@@ -30,7 +30,7 @@ AddressDialog::AddressDialog(frmAdressHilfe& form, QWidget* parent) : QDialog(pa
 
     auto* help = new QPlainTextEdit(this);
     help->setObjectName(QStringLiteral("txtHilfe"));
-    help->setMinimumHeight(180);
+    help->setMinimumHeight(140);
     help->setFocusPolicy(Qt::ClickFocus);
     binding_.bind(*help, form.txtHilfe);
     column->addWidget(help);
