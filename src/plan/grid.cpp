@@ -62,6 +62,8 @@ Planraster::Ansicht Planraster::AnsichtAb(Date start, int tage,
     neu.Monate = Monatsnamen(neu.PlanStart, tage);
     neu.Feiertage = FeiertageAb(neu.PlanStart, feiertage);
     neu.Linien = Tageslinien(neu.PlanStart, tage, neu.Heute, neu.Feiertage, abgesetzt(einstellungen_.Farben[0], 14));
+    for (int i = 0; i < tage; ++i)
+        neu.FreieFarben.push_back(FreieFarbeAm(neu.PlanStart + i));
     return neu;
 }
 
@@ -115,8 +117,8 @@ void Planraster::subMarkierenWochenenden() {
     }
 }
 
-Farbe Planraster::FreieFarbe(int Spalte) const {
-    switch (basic::Weekday(Datum(Spalte))) {
+Farbe Planraster::FreieFarbeAm(Date tag) const {
+    switch (basic::Weekday(tag)) {
     case Samstag:
         return einstellungen_.FarbeSamstag;
     case Sonntag:
@@ -138,9 +140,11 @@ std::vector<Zimmerbeschriftung> Planraster::SUBSetLabels(int ErsteZeile) const {
         const auto index = static_cast<std::size_t>(row - 1);
         return index < Zimmer_.size() ? &Zimmer_[index] : nullptr;
     };
+    // The waiting row is the last room, also where the settings tell of fewer rows than there are rooms.
+    const int letztes = std::max(AnzahlZimmer() + 1, static_cast<int>(Zimmer_.size()));
     for (int zeile = 1; zeile <= Wartezeile(); ++zeile) {
         const bool warten = zeile == Wartezeile();
-        const auto* z = zimmer(warten ? AnzahlZimmer() + 1 : ErsteZeile + zeile - 1);
+        const auto* z = zimmer(warten ? letztes : ErsteZeile + zeile - 1);
         Zimmerbeschriftung label{.Name = "Zimmernummer" + Format(zeile, "00"),
                                  .Caption = z != nullptr ? z->NeueNummer : "",
                                  .ToolTipText = z != nullptr ? z->Bemerkungen : "",

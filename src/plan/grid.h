@@ -69,7 +69,9 @@ public:
     [[nodiscard]] int Zelle(int Zeile, int Spalte) const { return (Zeile - 1) * AnzahlTage() + Spalte; }
     [[nodiscard]] basic::Date Datum(int Spalte) const { return PlanStart() + (Spalte - 1); }
     /// Fill of a free cell of the column.
-    [[nodiscard]] Farbe FreieFarbe(int Spalte) const;
+    [[nodiscard]] Farbe FreieFarbe(int Spalte) const {
+        return ansicht_.FreieFarben[static_cast<std::size_t>(Spalte - 1)];
+    }
     /// Is the fill one of the three free colours? A bar in such a colour counts as free.
     [[nodiscard]] bool istFrei(int Zelle) const;
     [[nodiscard]] std::vector<Balken> BalkenDerZeile(int Zeile) const;
@@ -98,6 +100,7 @@ private:
         std::vector<Monatsname> Monate;
         std::vector<tplFeiertag> Feiertage;
         std::vector<Farbe> Linien;
+        std::vector<Farbe> FreieFarben; ///< by column
     };
     struct Zellbereich {
         int Zeile;
@@ -109,6 +112,7 @@ private:
 
     [[nodiscard]] Ansicht AnsichtAb(basic::Date start, int tage,
                                     const std::vector<masterdata::Feiertag>& feiertage) const;
+    [[nodiscard]] Farbe FreieFarbeAm(basic::Date tag) const;
     [[nodiscard]] std::optional<int> ZeileFür(const Markierung& m) const;
     [[nodiscard]] Zellbereich BereichFür(const Markierung& m, int zeile) const;
     [[nodiscard]] Farbe FarbeFür(const Markierung& m) const;

@@ -11,6 +11,13 @@ namespace {
 /// Day numbers, so that a time of day in a stored date shifts no bar.
 int Tagesabstand(basic::Date von, basic::Date bis) { return bis.dayNumber() - von.dayNumber(); }
 
+/// A stored date may lie outside the calendar; such a stay has no place on the plan.
+bool imKalender(basic::Date datum) {
+    constexpr double ErsterTag = -657434; // 1.1.100
+    constexpr double NachLetztemTag = 2958466;
+    return datum.serial() >= ErsterTag && datum.serial() < NachLetztemTag;
+}
+
 void merkeWeitereIDs(tplZelle& zelle, const Markierung& m) {
     const auto id = std::to_string(m.ID);
     if (m.Gelöscht && zelle.WeitereIDs.empty()) zelle.WeitereIDs = id;
@@ -73,7 +80,7 @@ Farbe Planraster::FarbeFür(const Markierung& m) const {
 
 void Planraster::subMarkieren(const Markierung& m) {
     const auto zeile = ZeileFür(m);
-    if (!zeile) return;
+    if (!zeile || !imKalender(m.Von) || !imKalender(m.Bis)) return;
     const auto bereich = BereichFür(m, *zeile);
     if (bereich.Ende < bereich.Start) return;
     const Farbe farbe = FarbeFür(m);

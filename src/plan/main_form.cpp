@@ -1,25 +1,83 @@
 #include "plan/main_form.h"
 
+#include "plan/main_menu.h"
+#include "platform/basic/convert.h"
 #include "platform/basic/format.h"
+#include "platform/basic/text.h"
 #include "platform/jet/error.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace plan {
 
 using basic::Format;
 
-void frmMain::Form_Load() { subZeigeDatum(StandardStart(clock_->today())); }
+namespace {
 
-void frmMain::subZeigeDatum(basic::Date start) {
+constexpr Farbe Rotschrift = 0x0000FF;
+
+/// Nobody has said yet whether the stay is paid.
+constexpr std::string_view Unbekannt = "inaktiv";
+
+std::string Kürzeltext(const tplZelle& zelle) {
+    return zelle.Kuerzel + (zelle.Checked ? "/CH/" : "/") + std::to_string(zelle.Gaeste);
+}
+
+} // namespace
+
+frmMain::frmMain(Planraster& raster, const services::Clock& clock, Umgebung umgebung)
+    : lblBeispieldaten("Sie sehen zur Zeit die Beispieldaten"), cmdBezahlt(Unbekannt), cmdNeu("&Neu"), raster_(&raster),
+      clock_(&clock), umgebung_(std::move(umgebung)) {
+    txtFeiertag.Visible = false;
+    lblKürzel.Visible = false;
+    lblBeispieldaten.ForeColor = Rotschrift;
+    lblBeispieldaten.Visible = umgebung_.BeispielAktiv;
+    cmdBezahlt.ToolTipText =
+        "Dieses Feld wird nur grün gekennzeichnet, wenn alle Posten abgerechnet wurden und wenn keine unbezahlten "
+        "Rechnungen vorhanden sind  - weder für die betroffene Reservierungsadresse, noch für die betroffene "
+        "Rechnungsadresse.";
+    cmdNeu.Enabled = umgebung_.has(start::Fenster::Reservierung) && umgebung_.öffnen;
+    cmdNeu.ToolTipText = "Neue Reservierung eingeben";
+    Menü = Hauptmenü(umgebung_, raster_->Einstellungen().strTitel);
+    füllBelegungsrahmen();
+}
+
+void frmMain::füllBelegungsrahmen() {
+    const auto& e = raster_->Einstellungen();
+    optBelArt.Caption = e.Belegungsrahmen;
+    for (std::size_t art = 1; art < e.Belegungsarten.size(); ++art) {
+        const auto name = basic::Trim(e.Belegungsarten[art]);
+        if (name.empty()) continue;
+        services::OptionButton button;
+        button.Caption = name;
+        button.BackColor = e.Farben[art];
+        optBelArt.Buttons.push_back(std::move(button));
+        arten_.push_back(static_cast<int>(art));
+    }
+}
+
+void frmMain::Form_Load() {
+    subZeigeDatum(StandardStart(clock_->today()));
+    zeigeTag(clock_->today());
+}
+
+void frmMain::zeigeAb(const std::function<basic::Date()>& start) {
     try {
-        raster_->subZeigeDatum(start, raster_->AnzahlTage());
+        raster_->subZeigeDatum(start(), raster_->AnzahlTage());
         fehler_.clear();
     } catch (const jet::Error& error) {
         fehler_ = error.text();
     }
+    zeigeKürzel();
+}
+
+void frmMain::subZeigeDatum(basic::Date start) {
+    zeigeAb([&] { return start; });
 }
 
 void frmMain::Navigation_Click(const Navigation& button) {
-    subZeigeDatum(NeuerPlanStart(button, raster_->PlanStart(), clock_->today()));
+    zeigeAb([&] { return NeuerPlanStart(button, raster_->PlanStart(), clock_->today()); });
 }
 
 void frmMain::ScrollBar_Change(int position) {
@@ -32,6 +90,75 @@ void frmMain::ScrollBar_Change(int position) {
 void frmMain::cmdErster_Click() { ScrollBar_Change(0); }
 
 void frmMain::cmdLetzter_Click() { ScrollBar_Change(ScrollBarMax()); }
+
+void frmMain::MouseMove(int zeile, int spalte) {
+    const bool aufZellen =
+        zeile >= 1 && zeile <= raster_->Wartezeile() && spalte >= 1 && spalte <= raster_->AnzahlTage();
+    fldZimmer = aufZellen ? zeile : 0;
+    fldTag = aufZellen ? spalte : 0;
+    lblHilfe.Caption.clear();
+    zeigeTag(aufZellen ? std::optional(raster_->Datum(spalte)) : std::nullopt);
+    zeigeKürzel();
+}
+
+void frmMain::zeigeTag(std::optional<basic::Date> tag) {
+    fldDatum.Text = tag ? Format(*tag, "dd.mm.yy") : "";
+    fldWochentag.Text = tag ? Format(*tag, "Ddd") : "";
+    txtFeiertag.Text = tag ? raster_->Feiertag(*tag) : "";
+    txtFeiertag.Visible = !txtFeiertag.Text.empty();
+}
+
+void frmMain::zeigeKürzel() {
+    lblKürzel.Visible = false;
+    if (fldTag == 0) return;
+    const int zelle = raster_->Zelle(fldZimmer, fldTag);
+    if (raster_->istFrei(zelle) || raster_->Tage(zelle).ID == 0) return;
+    for (const auto& balken : raster_->BalkenDerZeile(fldZimmer)) {
+        if (fldTag < balken.VonSpalte || fldTag > balken.BisSpalte) continue;
+        lblKürzel.Caption = Kürzeltext(raster_->Tage(zelle));
+        lblKürzel.Visible = true;
+        KürzelPlatz = {balken.Zeile, balken.VonSpalte, balken.BisSpalte};
+    }
+}
+
+void frmMain::optBelArt_Click(int index) {
+    optBelArt.Value = index;
+    AuswahlArt = arten_[static_cast<std::size_t>(index)];
+    AuswahlFarbe = raster_->Einstellungen().Farben[static_cast<std::size_t>(AuswahlArt)];
+}
+
+void frmMain::cmdNeu_Click() { Menu_Click("mnuNeueReservierung"); }
+
+void frmMain::Menu_Click(std::string_view name) {
+    const auto* punkt = MenüpunktNamens(name);
+    if (punkt == nullptr || !freigegeben(*punkt, umgebung_)) return;
+    using Ziel = Menüpunkt::Ziel;
+    switch (punkt->ziel) {
+    case Ziel::Fenster:
+        return umgebung_.öffnen(punkt->fenster);
+    case Ziel::Programm:
+        return umgebung_.starten(punkt->programm.empty() ? punkt->datei : punkt->programm,
+                                 punkt->mitInstanz ? "Instanz:" + std::to_string(umgebung_.Instanz) : "");
+    case Ziel::Dokument:
+        return umgebung_.zeigen(punkt->datei);
+    case Ziel::Strukturupdate:
+        return umgebung_.Strukturupdate();
+    case Ziel::Beispieldaten:
+        return umgebung_.Beispieldaten();
+    case Ziel::DatenAb:
+        return springe();
+    case Ziel::Beenden:
+        ende_ = true;
+    }
+}
+
+void frmMain::springe() {
+    const auto answer =
+        umgebung_.dialogs->InputBox("Geben Sie das Anfangsdatum der Darstellung ein:", "Zeitleiste verschieben",
+                                    Format(raster_->PlanStart(), "dd.mm.yyyy"));
+    if (!answer) return;
+    if (const auto date = basic::parseDate(*answer, clock_->today())) subZeigeDatum(*date);
+}
 
 std::string frmMain::Caption() const { return raster_->Einstellungen().strTitel + " Version 4.10"; }
 

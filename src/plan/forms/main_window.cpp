@@ -1,13 +1,20 @@
 #include "plan/forms/main_window.h"
 
+#include "plan/forms/flow_layout.h"
+#include "plan/forms/menu_view.h"
+#include "plan/forms/plan_painter.h"
 #include "plan/forms/plan_widget.h"
+#include "plan/forms/status_line.h"
+#include "plan/forms/type_frame.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -26,59 +33,122 @@ QToolButton* stepButton(const char* name, Qt::ArrowType arrow, const QString& to
     return button;
 }
 
-QLabel* heading() {
+QLabel* plainLabel(const char* name) {
     auto* label = new QLabel;
-    label->setObjectName(QStringLiteral("lblZeitraum"));
+    label->setObjectName(QString::fromLatin1(name));
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QLabel* heading(const char* name, int pixels) {
+    auto* label = plainLabel(name);
     auto font = label->font();
-    font.setPixelSize(18);
+    font.setPixelSize(pixels);
     font.setBold(true);
     label->setFont(font);
     return label;
 }
 
+void writeIn(QLabel& label, const QColor& ink) { label.setStyleSheet(QStringLiteral("color: %1;").arg(ink.name())); }
+
+/// "Heute" begins the second half of the buttons, those that lead forward.
+std::size_t forwardButtons() {
+    std::size_t index = 0;
+    while (index < Navigationsleiste.size() && Navigationsleiste[index].art != Navigation::Art::Heute)
+        ++index;
+    return index;
+}
+
 } // namespace
 
 MainWindow::MainWindow(frmMain& form)
-    : form_(form), period_(heading()), error_(new QLabel), plan_(new PlanWidget(form.Raster())),
-      scrollColumn_(new QWidget), scrollBar_(new QScrollBar(Qt::Vertical)) {
+    : form_(form), period_(heading("lblZeitraum", 18)), sample_(heading("lblBeispieldaten", 13)),
+      error_(plainLabel("lblFehler")), new_(new QPushButton),
+      types_(new TypeFrame(form.optBelArt, [this](int index) { run([=, this] { form_.optBelArt_Click(index); }); })),
+      status_(new StatusLine(form)), plan_(new PlanWidget(form.Raster())), scrollColumn_(new QWidget),
+      scrollBar_(new QScrollBar(Qt::Vertical)),
+      menu_(std::make_unique<MenuView>(form.Menü,
+                                       [this](const std::string& name) { run([&] { form_.Menu_Click(name); }); })) {
     setObjectName(QStringLiteral("frmMain"));
-    error_->setObjectName(QStringLiteral("lblFehler"));
-    error_->setStyleSheet(QStringLiteral("color: %1;").arg(qt::look::alert.name()));
+    writeIn(*error_, qt::look::alert);
+    writeIn(*sample_, colour(form.lblBeispieldaten.ForeColor.value_or(Schwarz)));
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(14, 10, 14, 10);
+    all->setSpacing(8);
+    all->setMenuBar(menu_->bar());
+    all->addLayout(periodRow());
+    all->addLayout(typeRow());
+    all->addLayout(planWithScrollBar(), 1);
+    all->addWidget(error_);
+    all->addWidget(status_);
+    connectPlan();
+    refresh();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::run(const std::function<void()>& event) {
+    event();
+    refresh();
+    if (form_.Endegewünscht()) close();
+}
+
+void MainWindow::connectPlan() {
     plan_->onWheel = [this](int rows) { scrollBar_->setValue(scrollBar_->value() + rows); };
+    plan_->onMouse = [this](int line, int column) {
+        form_.MouseMove(line, column);
+        refreshStatus();
+    };
+}
+
+QLayout* MainWindow::periodRow() {
+    const auto forward = forwardButtons();
+    auto* row = new FlowLayout(6);
+    row->addWidget(period_);
+    row->addRight(navigation(0, forward));
+    row->addRight(navigation(forward, Navigationsleiste.size()));
+    return row;
+}
+
+QLayout* MainWindow::typeRow() {
+    new_->setObjectName(QStringLiteral("cmdNeu"));
+    connect(new_, &QPushButton::clicked, this, [this] { run([this] { form_.cmdNeu_Click(); }); });
+    auto* row = new QHBoxLayout;
+    row->setSpacing(12);
+    row->addWidget(types_, 1);
+    row->addWidget(sample_);
+    row->addWidget(new_);
+    return row;
+}
+
+QWidget* MainWindow::navigation(std::size_t first, std::size_t end) {
+    auto* group = new QWidget;
+    auto* row = new QHBoxLayout(group);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(6);
+    for (auto index = first; index < end; ++index)
+        row->addWidget(navigationButton(Navigationsleiste[index]));
+    return group;
+}
+
+QPushButton* MainWindow::navigationButton(const Navigation& button) {
+    auto* widget = new QPushButton(qt::text(button.Caption));
+    widget->setObjectName(qt::text(button.Name));
+    widget->setToolTip(qt::text(button.ToolTipText));
+    connect(widget, &QPushButton::clicked, this, [this, &button] {
+        run([&] { form_.Navigation_Click(button); });
+        plan_->setFocus();
+    });
+    return widget;
+}
+
+QBoxLayout* MainWindow::planWithScrollBar() {
     auto* middle = new QHBoxLayout;
     middle->setSpacing(4);
     middle->addWidget(plan_, 1);
     scrollColumn_->setLayout(scrollColumn());
     middle->addWidget(scrollColumn_);
-    auto* all = new QVBoxLayout(this);
-    all->setContentsMargins(14, 12, 14, 12);
-    all->setSpacing(10);
-    all->addLayout(navigationBar());
-    all->addLayout(middle, 1);
-    all->addWidget(error_);
-    refresh();
-}
-
-QBoxLayout* MainWindow::navigationBar() {
-    auto* bar = new QHBoxLayout;
-    bar->setSpacing(6);
-    bar->addWidget(period_);
-    bar->addStretch(1);
-    for (const auto& button : Navigationsleiste)
-        addNavigation(*bar, button);
-    return bar;
-}
-
-void MainWindow::addNavigation(QBoxLayout& bar, const Navigation& button) {
-    auto* widget = new QPushButton(qt::text(button.Caption));
-    widget->setObjectName(qt::text(button.Name));
-    widget->setToolTip(qt::text(button.ToolTipText));
-    connect(widget, &QPushButton::clicked, this, [this, &button] {
-        form_.Navigation_Click(button);
-        refresh();
-        plan_->setFocus();
-    });
-    bar.addWidget(widget);
+    return middle;
 }
 
 QBoxLayout* MainWindow::scrollColumn() {
@@ -88,18 +158,14 @@ QBoxLayout* MainWindow::scrollColumn() {
     auto* first = stepButton("cmdErster", Qt::UpArrow, tr("Zum ersten Zimmer"));
     auto* last = stepButton("cmdLetzter", Qt::DownArrow, tr("Zum letzten Zimmer"));
     scrollBar_->setObjectName(QStringLiteral("scrollBar"));
-    const auto after = [this](auto event) {
-        return [this, event] {
-            event();
-            refresh();
-        };
-    };
-    connect(first, &QToolButton::clicked, this, after([this] { form_.cmdErster_Click(); }));
-    connect(last, &QToolButton::clicked, this, after([this] { form_.cmdLetzter_Click(); }));
-    connect(scrollBar_, &QScrollBar::valueChanged, this, [this](int value) {
-        form_.ScrollBar_Change(value);
-        refresh();
-    });
+    scrollBar_->setFocusPolicy(Qt::StrongFocus);
+    auto* shortcut = new QShortcut(QKeySequence(QStringLiteral("Alt+S")), this);
+    shortcut->setObjectName(QStringLiteral("cmdScrollBar"));
+    connect(shortcut, &QShortcut::activated, scrollBar_, [this] { scrollBar_->setFocus(Qt::ShortcutFocusReason); });
+    connect(first, &QToolButton::clicked, this, [this] { run([this] { form_.cmdErster_Click(); }); });
+    connect(last, &QToolButton::clicked, this, [this] { run([this] { form_.cmdLetzter_Click(); }); });
+    connect(scrollBar_, &QScrollBar::valueChanged, this,
+            [this](int value) { run([=, this] { form_.ScrollBar_Change(value); }); });
     column->addWidget(first);
     column->addWidget(scrollBar_, 1);
     column->addWidget(last);
@@ -109,14 +175,30 @@ QBoxLayout* MainWindow::scrollColumn() {
 void MainWindow::refresh() {
     setWindowTitle(qt::text(form_.Caption()));
     period_->setText(qt::text(form_.Zeitraum()));
+    sample_->setText(qt::text(form_.lblBeispieldaten.Caption));
+    sample_->setVisible(form_.lblBeispieldaten.Visible);
     error_->setText(qt::text(form_.Fehler()));
     error_->setVisible(!form_.Fehler().empty());
+    new_->setText(qt::text(form_.cmdNeu.Caption));
+    new_->setToolTip(qt::text(form_.cmdNeu.ToolTipText));
+    new_->setEnabled(form_.cmdNeu.Enabled);
+    menu_->refresh(form_.Menü);
+    types_->refresh(form_.optBelArt);
     scrollColumn_->setVisible(form_.ScrollBarVisible());
     const QSignalBlocker blocked(scrollBar_);
     scrollBar_->setRange(0, form_.ScrollBarMax());
     scrollBar_->setPageStep(form_.Raster().Zimmerzeilen());
     scrollBar_->setValue(form_.ScrollBarValue());
     plan_->refresh();
+    refreshStatus();
+}
+
+void MainWindow::refreshStatus() {
+    status_->refresh(form_);
+    if (form_.lblKürzel.Visible)
+        plan_->showShortName(qt::text(form_.lblKürzel.Caption), form_.KürzelPlatz.Zeile, form_.KürzelPlatz.VonSpalte);
+    else
+        plan_->hideShortName();
 }
 
 } // namespace plan

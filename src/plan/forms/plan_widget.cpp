@@ -1,10 +1,13 @@
 #include "plan/forms/plan_widget.h"
 
 #include "plan/forms/plan_painter.h"
+#include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
 #include <QFontMetrics>
 #include <QHelpEvent>
+#include <QLabel>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -22,10 +25,18 @@ constexpr int wheelNotch = 120;
 
 } // namespace
 
-PlanWidget::PlanWidget(const Planraster& grid, QWidget* parent) : QWidget(parent), grid_(grid) {
+PlanWidget::PlanWidget(const Planraster& grid, QWidget* parent)
+    : QWidget(parent), grid_(grid), shortName_(new QLabel(this)) {
     setObjectName(QStringLiteral("plan"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    shortName_->setObjectName(QStringLiteral("lblKürzel"));
+    shortName_->setTextFormat(Qt::PlainText);
+    shortName_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    shortName_->setStyleSheet(QStringLiteral("background: %1; color: %2; border: 1px solid %3; padding: 0px 5px;")
+                                  .arg(qt::look::surface.name(), qt::look::text.name(), qt::look::text.name()));
+    shortName_->hide();
     refresh();
 }
 
@@ -61,6 +72,30 @@ void PlanWidget::paintEvent(QPaintEvent* event) {
 }
 
 void PlanWidget::resizeEvent(QResizeEvent* event) { places_ = PlanGeometry(grid_, event->size(), places_.widths()); }
+
+void PlanWidget::mouseMoveEvent(QMouseEvent* event) {
+    const auto point = event->position().toPoint();
+    moveTo({places_.columnAt(point.x()), places_.lineAt(point.y())});
+}
+
+void PlanWidget::leaveEvent(QEvent*) { moveTo({}); }
+
+void PlanWidget::moveTo(QPoint cell) {
+    if (cell == cell_) return;
+    cell_ = cell;
+    if (onMouse) onMouse(cell.y(), cell.x());
+}
+
+void PlanWidget::showShortName(const QString& text, int line, int column) {
+    const auto cell = places_.cell(line, column);
+    shortName_->setText(text);
+    const int width = std::min(shortName_->sizeHint().width(), places_.cells().width());
+    const int left = std::min(cell.left(), places_.cells().right() + 1 - width);
+    shortName_->setGeometry(left, cell.top(), width, cell.height());
+    shortName_->show();
+}
+
+void PlanWidget::hideShortName() { shortName_->hide(); }
 
 void PlanWidget::wheelEvent(QWheelEvent* event) {
     wheelRest_ += event->angleDelta().y();

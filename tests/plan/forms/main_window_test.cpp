@@ -6,11 +6,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QHelpEvent>
 #include <QImage>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
@@ -30,7 +32,8 @@ PlanEinstellungen Belegfarben() {
 }
 
 struct Window {
-    explicit Window(Hausgröße größe = {}, std::vector<Markierung> rows = {}) : plan(größe, Belegfarben()) {
+    explicit Window(Hausgröße größe = {}, std::vector<Markierung> rows = {}, Umgebung umgebung = {})
+        : plan(größe, Belegfarben()), form(plan.raster, plan.clock, std::move(umgebung)) {
         plan.quelle.rows = std::move(rows);
         form.Form_Load();
         window.resize(900, 480);
@@ -41,17 +44,18 @@ struct Window {
 
     template <typename T>
     [[nodiscard]] T& find(const char* name) {
-        auto* widget = window.findChild<T*>(QString::fromLatin1(name));
+        auto* widget = window.findChild<T*>(QString::fromUtf8(name));
         EXPECT_NE(widget, nullptr) << name;
         return *widget;
     }
     void press(const char* name) { QTest::mouseClick(&find<QPushButton>(name), Qt::LeftButton); }
     [[nodiscard]] PlanWidget& widget() { return *static_cast<PlanWidget*>(&find<QWidget>("plan")); }
     [[nodiscard]] QColor pixel(QPoint point) { return widget().grab().toImage().pixelColor(point); }
+    void hover(QPoint point) { QTest::mouseMove(&widget(), point); }
     [[nodiscard]] QPoint centre(int line, int column) { return widget().places().cell(line, column).center(); }
 
     GedachterPlan plan;
-    frmMain form{plan.raster, plan.clock};
+    frmMain form;
     MainWindow window{form};
 };
 
@@ -161,6 +165,85 @@ TEST(MainWindow, RoomsAndWeeksExplainThemselves) {
     EXPECT_EQ(toolTip(w.widget().places().room(4).center()),
               QStringLiteral("In dieser Zeile finden Sie alle noch nicht endgültigen Reservierungen."));
     EXPECT_EQ(toolTip(w.widget().places().upperDay(3).center()), QStringLiteral("Mo, 01.Jun.26"));
+}
+
+TEST(MainWindow, PointerOnABarShowsItsNameAndItsDay) {
+    Window w({}, {{.Von = tag(1),
+                   .Bis = tag(4),
+                   .Zimmernummer = 2,
+                   .BelegungsID = 1,
+                   .ID = 1,
+                   .AnzahlGäste = 2,
+                   .Kürzel = "Wübben & <b>"}});
+    w.hover(w.centre(2, 5));
+    const auto& name = w.find<QLabel>("lblKürzel");
+    EXPECT_TRUE(name.isVisible());
+    EXPECT_EQ(name.text(), QStringLiteral("Wübben & <b>/2"));
+    EXPECT_EQ(name.geometry().topLeft(), w.widget().places().cell(2, 3).topLeft());
+    EXPECT_EQ(name.height(), w.widget().places().cell(2, 3).height());
+    EXPECT_EQ(w.find<QLabel>("fldDatum").text(), QStringLiteral("03.06.26"));
+    w.hover(w.centre(2, 8));
+    EXPECT_FALSE(name.isVisible());
+    w.hover(w.widget().places().room(2).center());
+    EXPECT_EQ(w.find<QLabel>("fldDatum").text(), QString());
+}
+
+TEST(MainWindow, MenuShowsWhatCanBeChosen) {
+    int toggled = 0;
+    Window w({}, {}, {.Beispieldaten = [&] { ++toggled; }, .BeispielAktiv = true});
+    auto& sample = w.find<QAction>("mnuBeispieldaten");
+    EXPECT_TRUE(sample.isEnabled() && sample.isChecked());
+    EXPECT_FALSE(w.find<QAction>("mnuFeiertage").isEnabled());
+    EXPECT_FALSE(w.find<QPushButton>("cmdNeu").isEnabled());
+    EXPECT_TRUE(w.find<QLabel>("lblBeispieldaten").isVisible());
+    sample.trigger();
+    EXPECT_EQ(toggled, 1);
+    w.find<QAction>("mnuBeenden").trigger();
+    EXPECT_FALSE(w.window.isVisible());
+}
+
+TEST(MainWindow, FrameOfTypesIsChosenByMouseAndKeys) {
+    Window w;
+    QTest::mouseClick(&w.find<QRadioButton>("optBelArt2"), Qt::LeftButton);
+    EXPECT_EQ(w.form.AuswahlArt, 2);
+    EXPECT_TRUE(w.find<QRadioButton>("optBelArt2").isChecked());
+    QTest::keyClick(&w.find<QRadioButton>("optBelArt2"), Qt::Key_Right);
+    EXPECT_EQ(w.form.AuswahlArt, 3);
+    EXPECT_FALSE(w.find<QLabel>("lblBeispieldaten").isVisible());
+}
+
+TEST(MainWindow, KeysReachTheScrollBar) {
+    Window w({.zimmer = 20, .tage = 10, .sichtbar = 5});
+    w.window.activateWindow();
+    QTest::keyClick(&w.window, Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(w.window.focusWidget(), &w.find<QScrollBar>("scrollBar"));
+    QTest::keyClick(w.window.focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(w.plan.raster.ErsteZeile(), 2);
+}
+
+TEST(MainWindow, NarrowWindowWrapsItsButtonsAndKeepsTheWholePlan) {
+    Window w({.zimmer = 9, .tage = 35});
+    const auto below = [&](const char* name, const char* other) {
+        return w.find<QWidget>(name).mapTo(&w.window, QPoint()).y() >
+               w.find<QWidget>(other).mapTo(&w.window, QPoint()).y();
+    };
+    for (const auto& [width, wraps] : {std::pair{1400, false}, {620, true}}) {
+        w.window.resize(width, 600);
+        QTest::qWait(0);
+        EXPECT_EQ(w.window.width(), width);
+        EXPECT_EQ(below("cmdNextDay", "cmdPrevDay"), wraps) << width;
+        const auto& places = w.widget().places();
+        EXPECT_EQ(places.lines(), 10);
+        EXPECT_LE(places.y(11), w.widget().height());
+        EXPECT_LE(places.x(36), w.widget().width());
+    }
+}
+
+TEST(MainWindow, DarkDesktopChangesNoColour) {
+    Window w({}, {{.Von = tag(1), .Bis = tag(4), .Zimmernummer = 1, .BelegungsID = 1, .ID = 1}});
+    const auto light = w.widget().grab().toImage();
+    w.window.setPalette(QPalette(QColor(0x20, 0x20, 0x20)));
+    EXPECT_EQ(w.widget().grab().toImage(), light);
 }
 
 TEST(MainWindow, EveryPointBelongsToTheCellThatIsPaintedThere) {
