@@ -31,12 +31,23 @@ QLayoutItem* FlowLayout::takeAt(int index) {
 
 bool FlowLayout::isRight(QLayoutItem* item) const { return right_.contains(item->widget()); }
 
+int FlowLayout::widthOfRight() const {
+    int width = 0;
+    for (const auto& item : items_)
+        if (isRight(item.get()) && !item->isEmpty()) width += spacing() + item->sizeHint().width();
+    return width;
+}
+
 std::vector<FlowLayout::Row> FlowLayout::rows(int width) const {
     std::vector<Row> rows;
+    bool rightBegun = false;
     for (const auto& item : items_) {
         if (item->isEmpty()) continue;
         const auto size = item->sizeHint();
-        if (rows.empty() || rows.back().width + spacing() + size.width() > width)
+        const bool firstRight = !rightBegun && isRight(item.get());
+        rightBegun = rightBegun || firstRight;
+        const int needed = firstRight ? widthOfRight() : spacing() + size.width();
+        if (rows.empty() || rows.back().width + needed > width)
             rows.emplace_back();
         else
             rows.back().width += spacing();

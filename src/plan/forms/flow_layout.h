@@ -8,8 +8,8 @@
 
 namespace plan {
 
-/// Puts widgets side by side and goes on in a new row where the width is used up. In a row that
-/// begins with another widget, those from the first one that was added to the right on stand at the right edge.
+/// Puts widgets side by side and goes on in a new row where the width is used up. Those added to the right stand at
+/// the right edge behind the others if there is room for all of them, else they begin a row of their own.
 class FlowLayout : public QLayout {
 public:
     explicit FlowLayout(int spacing);
@@ -34,6 +34,7 @@ private:
         int height = 0;
     };
     [[nodiscard]] std::vector<Row> rows(int width) const;
+    [[nodiscard]] int widthOfRight() const;
     [[nodiscard]] bool isRight(QLayoutItem* item) const;
     void place(const Row& row, const QRect& rect) const;
     /// Height of all rows.

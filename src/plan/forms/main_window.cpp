@@ -83,6 +83,7 @@ MainWindow::MainWindow(frmMain& form)
     all->addWidget(status_);
     connectPlan();
     refresh();
+    plan_->setFocus();
 }
 
 MainWindow::~MainWindow() = default;

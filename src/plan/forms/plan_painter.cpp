@@ -113,20 +113,40 @@ void PlanPainter::paintBar(const Balken& bar) {
 
 void PlanPainter::paintBarShape(const Balken& bar, const QRect& rect) {
     const auto plain = fill(bar, bar.BisSpalte);
-    const auto first = fill(bar, bar.VonSpalte);
     const auto frame = bar.Rahmen > 1 ? colour(Schriftfarbe(grid_.Bild(grid_.Zelle(bar.Zeile, bar.BisSpalte)).Fuellung))
                                       : plain.darker(135);
-    const bool rounded = lineHeight_ >= 10;
-    const qreal radius = rounded ? std::min(4.0, rect.height() / 4.0) : 0.0;
+    if (lineHeight_ < 10)
+        paintFlatBar(bar, rect, frame);
+    else
+        paintRoundBar(bar, rect, frame);
+}
+
+QRect PlanPainter::firstDayOf(const Balken& bar, const QRect& rect) const {
+    return {rect.left(), rect.top(), places_.x(bar.VonSpalte + 1) - rect.left(), rect.height()};
+}
+
+/// Thousands of small bars: corners would not be seen, and rectangles are filled far faster than paths.
+void PlanPainter::paintFlatBar(const Balken& bar, const QRect& rect, const QColor& frame) {
+    const int width = std::min(bar.Rahmen, rect.height() / 3);
+    const auto inner = rect.adjusted(width, width, -width, -width);
+    painter_.fillRect(rect, frame);
+    painter_.fillRect(inner, fill(bar, bar.BisSpalte));
+    if (const auto first = fill(bar, bar.VonSpalte); first != fill(bar, bar.BisSpalte))
+        painter_.fillRect(inner.intersected(firstDayOf(bar, rect)), first);
+}
+
+void PlanPainter::paintRoundBar(const Balken& bar, const QRect& rect, const QColor& frame) {
+    const auto plain = fill(bar, bar.BisSpalte);
+    const auto first = fill(bar, bar.VonSpalte);
+    const qreal radius = std::min(4.0, rect.height() / 4.0);
     const qreal half = bar.Rahmen / 2.0;
     const auto outline =
         roundedSides(QRectF(rect).adjusted(half, half, -half, -half), radius, !bar.LinksOffen, !bar.RechtsOffen);
-    painter_.setRenderHint(QPainter::Antialiasing, rounded);
+    painter_.setRenderHint(QPainter::Antialiasing);
     painter_.fillPath(outline, plain);
     if (first != plain) {
         painter_.save();
-        painter_.setClipRect(QRect(rect.left(), rect.top(), places_.x(bar.VonSpalte + 1) - rect.left(), rect.height()),
-                             Qt::IntersectClip);
+        painter_.setClipRect(firstDayOf(bar, rect), Qt::IntersectClip);
         painter_.fillPath(outline, first);
         painter_.restore();
     }

@@ -27,6 +27,8 @@ private:
     void paintBars();
     void paintBar(const Balken& bar);
     void paintBarShape(const Balken& bar, const QRect& rect);
+    void paintFlatBar(const Balken& bar, const QRect& rect, const QColor& frame);
+    void paintRoundBar(const Balken& bar, const QRect& rect, const QColor& frame);
     void paintBarLabel(const Balken& bar, const QRect& rect);
     void paintMonths();
     void paintDays();
@@ -38,6 +40,7 @@ private:
     void paintExtra(const QRect& rect, int background, const std::string& caption);
 
     [[nodiscard]] QRect barRect(const Balken& bar) const;
+    [[nodiscard]] QRect firstDayOf(const Balken& bar, const QRect& rect) const;
     [[nodiscard]] QColor fill(const Balken& bar, int column) const;
     [[nodiscard]] QFont font(int pixels, bool bold = false) const;
     [[nodiscard]] bool showsDayNumber(int column) const;

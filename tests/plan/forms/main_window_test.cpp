@@ -212,6 +212,22 @@ TEST(MainWindow, FrameOfTypesIsChosenByMouseAndKeys) {
     EXPECT_FALSE(w.find<QLabel>("lblBeispieldaten").isVisible());
 }
 
+TEST(MainWindow, TabFollowsTheWindowFromTopToBottom) {
+    Window w({.zimmer = 20, .tage = 10, .sichtbar = 5});
+    w.find<QWidget>("cmdPrev3Months").setFocus();
+    QStringList visited;
+    for (int i = 0; i < 20; ++i) {
+        QTest::keyClick(w.window.focusWidget(), Qt::Key_Tab);
+        visited.append(w.window.focusWidget()->objectName());
+    }
+    const auto place = [&](const char* name) { return visited.indexOf(QString::fromLatin1(name)); };
+    EXPECT_EQ(place("cmdPrevMonth"), 0);
+    EXPECT_LT(place("cmdNextMonth"), place("cmdAktualisieren"));
+    EXPECT_LT(place("cmdAktualisieren"), place("optBelArt1"));
+    EXPECT_LT(place("optBelArt1"), place("plan"));
+    EXPECT_LT(place("plan"), place("scrollBar"));
+}
+
 TEST(MainWindow, KeysReachTheScrollBar) {
     Window w({.zimmer = 20, .tage = 10, .sichtbar = 5});
     w.window.activateWindow();
@@ -224,14 +240,18 @@ TEST(MainWindow, KeysReachTheScrollBar) {
 TEST(MainWindow, NarrowWindowWrapsItsButtonsAndKeepsTheWholePlan) {
     Window w({.zimmer = 9, .tage = 35});
     const auto below = [&](const char* name, const char* other) {
-        return w.find<QWidget>(name).mapTo(&w.window, QPoint()).y() >
-               w.find<QWidget>(other).mapTo(&w.window, QPoint()).y();
+        const auto bottom = [&](const char* of) {
+            const auto& widget = w.find<QWidget>(of);
+            return widget.mapTo(&w.window, QPoint(0, widget.height())).y();
+        };
+        return bottom(name) > bottom(other) + 5;
     };
-    for (const auto& [width, wraps] : {std::pair{1400, false}, {620, true}}) {
+    for (const auto& [width, rows] : {std::pair{1400, 1}, {900, 2}, {620, 3}}) {
         w.window.resize(width, 600);
         QTest::qWait(0);
         EXPECT_EQ(w.window.width(), width);
-        EXPECT_EQ(below("cmdNextDay", "cmdPrevDay"), wraps) << width;
+        EXPECT_EQ(below("cmdPrevMonth", "lblZeitraum"), rows > 1) << width;
+        EXPECT_EQ(below("cmdNextMonth", "cmdPrevMonth"), rows > 2) << width;
         const auto& places = w.widget().places();
         EXPECT_EQ(places.lines(), 10);
         EXPECT_LE(places.y(11), w.widget().height());
