@@ -64,6 +64,10 @@ std::string_view statementText(ErrorNumber number) {
         return "Die Tabelle oder Abfrage wurde nicht gefunden.";
     case ErrorNumber::AmbiguousField:
         return "Das Feld kommt in mehreren Tabellen vor.";
+    case ErrorNumber::JoinField:
+        return "Die Verknüpfung bezieht sich auf ein Feld, das in keiner ihrer Tabellen steht.";
+    case ErrorNumber::OrderByDistinct:
+        return "Mit DISTINCT lässt sich nur nach dem ordnen, was ausgewählt ist.";
     case ErrorNumber::UnknownFunction:
         return "Unbekannte Funktion.";
     case ErrorNumber::CannotDelete:

@@ -1,6 +1,7 @@
 #include "platform/jet/binder_impl.h"
 
 #include "platform/jet/overloaded.h"
+#include "platform/jet/walk.h"
 
 #include <algorithm>
 
@@ -41,6 +42,7 @@ std::vector<OutputColumn> Binder::select(ast::Select& select, const Scope* outer
 
 void Binder::core(ast::SelectCore& core, const Scope* outer) {
     BoundCore& bound = binding_.cores[&core];
+    bound = {}; // bound anew where an alias of the list stands for it
     if (core.from) source(*core.from, bound);
     Scope scope{&bound, outer, false, false, false, {}};
     if (core.from) joinConditions(*core.from, scope);
@@ -91,9 +93,26 @@ void Binder::orderBy(ast::Select& select, const std::vector<OutputColumn>& colum
         Scope grouped{&binding_.cores.at(&core), outer, true, false, true, {}};
         grouping(core, grouped);
     }
-    if (first.aggregated && !isUnion)
-        for (const ast::OrderItem& item : select.orderBy)
-            if (item.expr) checkGrouped(*item.expr, select.cores.front());
+    if (isUnion) return;
+    for (const ast::OrderItem& item : select.orderBy) {
+        if (item.expr && first.aggregated) checkGrouped(*item.expr, select.cores.front());
+        if (item.expr && select.cores.front().quantifier == ast::SelectCore::Quantifier::Distinct)
+            requireShown(*item.expr, first);
+    }
+}
+
+/// Rows that DISTINCT has made one have no single value of what the list does not show.
+void Binder::requireShown(const ast::Expr& key, const BoundCore& core) {
+    const auto* field = std::get_if<ast::FieldRef>(&key.node);
+    if (field && field->aliasItem >= 0) return;
+    const auto shows = [&](const BoundItem& item) {
+        if (item.expr) return sameExpr(*item.expr, key, *binding_.literals);
+        return field && field->scopeLevel == 0 && field->source == item.source && field->column == item.column;
+    };
+    const auto shown = std::find_if(core.items.begin(), core.items.end(), shows);
+    if (shown == core.items.end()) raise(ErrorNumber::OrderByDistinct, described(key));
+    keepLiterals(key);
+    if (shown->expr) keepLiterals(*shown->expr);
 }
 
 void Binder::items(ast::SelectCore& core, Scope& scope) {
@@ -189,52 +208,18 @@ void Binder::grouping(ast::SelectCore& core, Scope& scope) {
     if (core.having) checkGrouped(*core.having, core);
 }
 
-namespace {
-
-/// Calls visit for each direct operand; subqueries are closed.
-void forEachOperand(const ast::Expr& expr, const auto& visit) {
-    std::visit(Overloaded{[&](const ast::Unary& u) { visit(*u.operand); },
-                          [&](const ast::Binary& b) {
-                              visit(*b.left);
-                              visit(*b.right);
-                          },
-                          [&](const ast::Like& l) {
-                              visit(*l.operand);
-                              visit(*l.pattern);
-                          },
-                          [&](const ast::Between& b) {
-                              visit(*b.operand);
-                              visit(*b.low);
-                              visit(*b.high);
-                          },
-                          [&](const ast::IsNull& n) { visit(*n.operand); },
-                          [&](const ast::In& in) {
-                              visit(*in.operand);
-                              for (const ast::ExprPtr& value : in.values)
-                                  visit(*value);
-                          },
-                          [&](const ast::Call& c) {
-                              for (const ast::ExprPtr& argument : c.arguments)
-                                  visit(*argument);
-                          },
-                          [](const auto&) {}},
-               expr.node);
+/// A plan that stands on literals being the same in two places serves only statements with these.
+void Binder::keepLiterals(const ast::Expr& expr) {
+    if (const auto* literal = std::get_if<ast::Literal>(&expr.node)) binding_.structural.insert(literal->index);
+    forEachOperand(expr, [&](const ast::Expr& operand) { keepLiterals(operand); });
 }
-
-} // namespace
 
 /// Outside an aggregate only what is grouped by has one value for the whole group.
 void Binder::checkGrouped(const ast::Expr& expr, const ast::SelectCore& core) {
     for (const ast::ExprPtr& key : core.groupBy)
         if (sameExpr(*key, expr, *binding_.literals)) {
-            // The plan stands on these literals being the same in both places.
-            const auto keepLiterals = [&](const ast::Expr& e, const auto& self) -> void {
-                if (const auto* literal = std::get_if<ast::Literal>(&e.node))
-                    binding_.structural.insert(literal->index);
-                forEachOperand(e, [&](const ast::Expr& operand) { self(operand, self); });
-            };
-            keepLiterals(*key, keepLiterals);
-            keepLiterals(expr, keepLiterals);
+            keepLiterals(*key);
+            keepLiterals(expr);
             return;
         }
     if (const auto* call = std::get_if<ast::Call>(&expr.node); call && isAggregate(call->name)) return;
@@ -268,12 +253,16 @@ void Binder::source(ast::Source& source, BoundCore& bound) {
                source.node);
 }
 
-void Binder::joinConditions(ast::Source& source, Scope& scope) {
-    if (auto* join = std::get_if<ast::JoinSource>(&source.node)) {
-        joinConditions(*join->left, scope);
-        joinConditions(*join->right, scope);
-        if (join->on) condition(*join->on, scope);
-    }
+/// `first` is the place of the source's first table; gives the place behind its last one.
+int Binder::joinConditions(ast::Source& source, Scope& scope, int first) {
+    auto* join = std::get_if<ast::JoinSource>(&source.node);
+    if (!join) return first + 1;
+    const int last = joinConditions(*join->right, scope, joinConditions(*join->left, scope, first));
+    scope.firstSource = first;
+    scope.lastSource = last;
+    if (join->on) condition(*join->on, scope);
+    scope.firstSource = -1;
+    return last;
 }
 
 } // namespace jet

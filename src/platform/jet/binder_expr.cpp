@@ -2,6 +2,7 @@
 
 #include "platform/jet/functions.h"
 #include "platform/jet/overloaded.h"
+#include "platform/jet/walk.h"
 
 #include <algorithm>
 
@@ -101,11 +102,14 @@ bool Binder::resolveAlias(ast::FieldRef& field, Scope& scope) {
 ExprType Binder::node(ast::FieldRef& field, ast::Expr&, Scope& scope) {
     int level = 0;
     for (const Scope* s = &scope; s; s = s->outer, ++level) {
-        if (resolveHere(field, *s->core, level))
+        if (resolveHere(field, *s->core, level)) {
+            if (!s->sees(field.source)) raise(ErrorNumber::JoinField, "'" + field.field.text() + "'");
             return s->core->sources[static_cast<std::size_t>(field.source)].columnType(field.column);
+        }
         if (level == 0 && scope.aliasesVisible && field.table.empty() && resolveAlias(field, scope)) {
             BoundItem& item = scope.core->items[static_cast<std::size_t>(field.aliasItem)];
-            if (scope.resolving.empty()) return item.output.type;
+            if (scope.resolving.empty() && !scope.insideAggregate) return item.output.type;
+            if (++aliasesFollowed_ > mostAliasesFollowed) raise(ErrorNumber::TooComplex);
             scope.resolving.push_back(item.expr);
             const ExprType type = expr(*item.expr, scope);
             scope.resolving.pop_back();
@@ -207,6 +211,18 @@ ExprType Binder::node(ast::Scalar& scalar, ast::Expr&, Scope& scope) {
     return columns.front().type;
 }
 
+namespace {
+
+/// An aggregate over fields of the select around it only would group that one.
+void requireOwnField(const ast::Call& call, const ast::Expr& argument) {
+    bool own = false;
+    bool outer = false;
+    forEachField(argument, [&](const ast::FieldRef& field) { (field.scopeLevel == 0 ? own : outer) = true; });
+    if (outer && !own) raise(ErrorNumber::AggregateMisuse, "'" + call.name.text() + "'");
+}
+
+} // namespace
+
 ExprType Binder::aggregate(ast::Call& call, Scope& scope) {
     if (scope.insideAggregate || !scope.aggregatesAllowed)
         raise(ErrorNumber::AggregateMisuse, "'" + call.name.text() + "'");
@@ -217,6 +233,7 @@ ExprType Binder::aggregate(ast::Call& call, Scope& scope) {
     scope.insideAggregate = true;
     const ExprType type = expr(*call.arguments.front(), scope);
     scope.insideAggregate = false;
+    requireOwnField(call, *call.arguments.front());
     if (name == "count") return ExprType::Long;
     if (name == "min" || name == "max" || name == "first" || name == "last") return type;
     if (type == ExprType::Text) raise(ErrorNumber::CriteriaTypes, described(*call.arguments.front()));

@@ -13,6 +13,13 @@ struct Scope {
     bool insideAggregate = false;            ///< an aggregate within an aggregate is an error
     bool aggregatesAllowed = true;           ///< not in WHERE, ON, GROUP BY
     std::vector<const ast::Expr*> resolving; ///< alias expressions being followed, to find circles
+    /// In a join's condition: its own tables, from the first to before the last. Negative: all.
+    int firstSource = -1;
+    int lastSource = -1;
+
+    [[nodiscard]] bool sees(int source) const {
+        return firstSource < 0 || (source >= firstSource && source < lastSource);
+    }
 };
 
 class Binder {
@@ -34,8 +41,10 @@ private:
     void nameItem(const ast::SelectItem& item, BoundItem& bound, std::size_t position, const BoundCore& core);
     void grouping(ast::SelectCore& core, Scope& scope);
     void checkGrouped(const ast::Expr& expr, const ast::SelectCore& core);
+    void requireShown(const ast::Expr& key, const BoundCore& core);
+    void keepLiterals(const ast::Expr& expr);
     void source(ast::Source& source, BoundCore& bound);
-    void joinConditions(ast::Source& source, Scope& scope);
+    int joinConditions(ast::Source& source, Scope& scope, int first = 0);
     void condition(ast::Expr& expr, Scope& scope);
 
     // binder_change.cpp
@@ -66,6 +75,7 @@ private:
     Binding binding_;
     const Catalogue& catalogue_;
     int sourceCount_ = 0;
+    int aliasesFollowed_ = 0;
 };
 
 /// Text against a number or date can never be compared: 3464 naming the field where one is involved.

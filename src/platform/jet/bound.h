@@ -49,6 +49,10 @@ struct Binding {
     [[nodiscard]] const BoundCore& core(const void* node) const { return cores.at(node); }
 };
 
+/// An alias stands for its whole expression, which may name further aliases: without a bound, a short statement would
+/// grow past all memory.
+inline constexpr int mostAliasesFollowed = 500;
+
 /// The type that holds the values of both: Null takes any, numbers the wider one, text with anything else is text.
 [[nodiscard]] ExprType commonType(ExprType a, ExprType b);
 [[nodiscard]] bool isNumeric(ExprType type);

@@ -1,6 +1,9 @@
 #include "platform/jet/emitter_impl.h"
 
 #include "platform/jet/overloaded.h"
+#include "platform/jet/walk.h"
+
+#include <algorithm>
 
 namespace jet {
 
@@ -35,13 +38,31 @@ std::string Emitter::stored(int column, const std::string& value, ExprType type)
            std::to_string(flags) + ", " + name + "')";
 }
 
+namespace {
+
+bool holdsSubquery(const ast::Expr& expr) {
+    if (std::holds_alternative<ast::Scalar>(expr.node) || std::holds_alternative<ast::Exists>(expr.node)) return true;
+    if (const auto* in = std::get_if<ast::In>(&expr.node); in && in->select) return true;
+    bool found = false;
+    forEachOperand(expr, [&](const ast::Expr& operand) { found = found || holdsSubquery(operand); });
+    return found;
+}
+
+bool readsRows(const std::vector<ast::Assignment>& assignments) {
+    return std::any_of(assignments.begin(), assignments.end(),
+                       [](const ast::Assignment& assignment) { return holdsSubquery(*assignment.value); });
+}
+
+} // namespace
+
 Compiled Emitter::change(const ast::Update& update) {
     Compiled plan = planOfChange();
     const BoundCore& bound = binding_.core(&update);
     scopes_.push_back(&bound);
     findBracketed(*update.from, bound, false);
     const BoundSource& target = bound.sources[static_cast<std::size_t>(binding_.targetSource)];
-    const bool joins = bound.sources.size() > 1;
+    // Values that read other rows are all read before the first is written, as those of a join are.
+    const bool joins = bound.sources.size() > 1 || readsRows(update.assignments);
     std::string set;
     std::string values;
     for (std::size_t i = 0; i < update.assignments.size(); ++i) {

@@ -115,9 +115,16 @@ std::string Emitter::field(const BoundSource& source, int column) const {
     return alias + quoted(source.table->columns[static_cast<std::size_t>(column)].name.text());
 }
 
+const BoundCore& Emitter::coreOf(const ast::FieldRef& field) const {
+    return *scopes_[scopes_.size() - 1 - static_cast<std::size_t>(field.scopeLevel)];
+}
+
 std::string Emitter::fieldRef(const ast::FieldRef& ref) {
-    const BoundCore& core = *scopes_[scopes_.size() - 1 - static_cast<std::size_t>(ref.scopeLevel)];
-    if (ref.aliasItem >= 0) return "(" + value(*core.items[static_cast<std::size_t>(ref.aliasItem)].expr) + ")";
+    const BoundCore& core = coreOf(ref);
+    if (ref.aliasItem >= 0) {
+        if (++aliasesWritten_ > mostAliasesFollowed) raise(ErrorNumber::TooComplex);
+        return "(" + value(*core.items[static_cast<std::size_t>(ref.aliasItem)].expr) + ")";
+    }
     return field(core.sources[static_cast<std::size_t>(ref.source)], ref.column);
 }
 
@@ -136,10 +143,17 @@ bool Emitter::isCondition(const ast::Expr& expr) {
                       expr.node);
 }
 
-/// Text other than a plain field carries the German order with it; a plain field has it from its table.
+/// A field of a table, not one that a derived table has computed.
+bool Emitter::isStoredField(const ast::Expr& expr) const {
+    if (!isPlainField(expr)) return false;
+    const auto& ref = std::get<ast::FieldRef>(expr.node);
+    return coreOf(ref).sources[static_cast<std::size_t>(ref.source)].table != nullptr;
+}
+
+/// Text other than a stored field carries the German order with it; a stored field has it from its table.
 std::string Emitter::comparable(const ast::Expr& expr) {
     const std::string sql = value(expr);
-    return expr.type == ExprType::Text && !isPlainField(expr) ? sql + collate : sql;
+    return expr.type == ExprType::Text && !isStoredField(expr) ? sql + collate : sql;
 }
 
 std::string Emitter::condition(const ast::Expr& expr) {
@@ -231,23 +245,24 @@ std::string Emitter::valueAs(const ast::Expr& expr, ExprType type) {
 
 std::string Emitter::value(const ast::Expr& expr) {
     if (isCondition(expr)) return "(-" + condition(expr) + ")";
-    return std::visit(Overloaded{[&](const ast::Literal& l) { return literal(l); },
-                                 [&](const ast::Constant& c) -> std::string {
-                                     if (c.kind == ast::Constant::Kind::Null) return "NULL";
-                                     return c.kind == ast::Constant::Kind::True ? "-1" : "0";
-                                 },
-                                 [&](const ast::ClockValue& c) { return clock(c); },
-                                 [&](const ast::FieldRef& f) { return fieldRef(f); },
-                                 [&](const ast::Unary& u) {
-                                     if (u.op == ast::Unary::Op::Plus) return value(*u.operand);
-                                     return isNativeNumber(u.operand->type) ? "(-" + value(*u.operand) + ")"
-                                                                            : function("j_negate", {u.operand.get()});
-                                 },
-                                 [&](const ast::Binary& b) { return arithmetic(b, expr); },
-                                 [&](const ast::Call& c) { return call(c); },
-                                 [&](const ast::Scalar& s) { return scalar(s); },
-                                 [](const auto&) -> std::string { raise(ErrorNumber::Internal); }},
-                      expr.node);
+    return std::visit(
+        Overloaded{[&](const ast::Literal& l) { return literal(l); },
+                   [&](const ast::Constant& c) -> std::string {
+                       if (c.kind == ast::Constant::Kind::Null) return "NULL";
+                       return c.kind == ast::Constant::Kind::True ? "(-1)"
+                                                                  : "0"; // a bare -1 behind a minus would be a comment
+                   },
+                   [&](const ast::ClockValue& c) { return clock(c); },
+                   [&](const ast::FieldRef& f) { return fieldRef(f); },
+                   [&](const ast::Unary& u) {
+                       if (u.op == ast::Unary::Op::Plus) return value(*u.operand);
+                       return isNativeNumber(u.operand->type) ? "(-" + value(*u.operand) + ")"
+                                                              : function("j_negate", {u.operand.get()});
+                   },
+                   [&](const ast::Binary& b) { return arithmetic(b, expr); },
+                   [&](const ast::Call& c) { return call(c); }, [&](const ast::Scalar& s) { return scalar(s); },
+                   [](const auto&) -> std::string { raise(ErrorNumber::Internal); }},
+        expr.node);
 }
 
 std::string Emitter::arithmetic(const ast::Binary& binary, const ast::Expr&) {

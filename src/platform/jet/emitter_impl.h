@@ -23,12 +23,14 @@ private:
     std::string select(const ast::Select& select, Order order, Compiled* plan);
     std::string core(const ast::Select& select, std::size_t index, Order order, Compiled* plan);
     std::string columnList(const ast::Select& select, std::size_t index);
+    [[nodiscard]] std::string starField(const BoundCore& bound, const BoundItem& item, ExprType type) const;
     std::string hiddenColumns(const BoundCore& bound, Compiled& plan) const;
     std::string tail(const ast::SelectCore& core);
     std::string grouping(const ast::SelectCore& core);
     std::string orderBy(const ast::Select& select, const std::vector<std::string>& key);
     std::string orderKey(const ast::OrderItem& item, const ast::Select& select);
-    std::string topOf(const ast::Select& select, const std::string& body, std::size_t hidden);
+    std::string topOf(const ast::Select& select, const ast::SelectCore& core, const std::string& list,
+                      std::size_t hidden);
     [[nodiscard]] std::vector<std::string> keyOf(const BoundCore& bound) const;
     void findBracketed(const ast::Source& source, const BoundCore& bound, bool inside);
     [[nodiscard]] std::string identity(const BoundSource& source) const;
@@ -57,18 +59,21 @@ private:
     std::string scalar(const ast::Scalar& scalar);
     std::string like(const ast::Like& like);
     std::string in(const ast::In& in);
+    [[nodiscard]] const BoundCore& coreOf(const ast::FieldRef& field) const;
     std::string fieldRef(const ast::FieldRef& field);
     std::string literal(const ast::Literal& literal);
     std::string clock(const ast::ClockValue& clock);
     std::string slot(Slot slot);
     [[nodiscard]] static bool isCondition(const ast::Expr& expr);
     [[nodiscard]] static bool isPlainField(const ast::Expr& expr);
+    [[nodiscard]] bool isStoredField(const ast::Expr& expr) const;
     std::string comparable(const ast::Expr& expr);
 
     const Binding& binding_;
     std::vector<const BoundCore*> scopes_;
     std::vector<Slot> slots_;
     std::vector<int> bracketed_; ///< numbers of the tables inside brackets of a join
+    int aliasesWritten_ = 0;
 };
 
 /// The letter by which a registered function knows the type of an argument.

@@ -1,6 +1,7 @@
 #include "platform/jet/emitter_impl.h"
 
 #include "platform/jet/overloaded.h"
+#include "platform/jet/walk.h"
 
 #include <algorithm>
 #include <array>
@@ -9,18 +10,37 @@ namespace jet {
 
 namespace {
 
+/// No field can be called so: names have no points.
+constexpr const char* hiddenIdentity = "\"j.id\"";
+
 const ast::JoinSource* asJoin(const ast::Source& source) { return std::get_if<ast::JoinSource>(&source.node); }
 
-bool isSimple(const ast::Select& select, const BoundCore& bound) {
-    return select.cores.size() == 1 && !bound.aggregated &&
-           select.cores.front().quantifier != ast::SelectCore::Quantifier::Distinct;
+/// Is each row of the result a row of the tables, in which a key can order it?
+bool isSimple(const ast::SelectCore& core, const BoundCore& bound) {
+    return !bound.aggregated && core.quantifier != ast::SelectCore::Quantifier::Distinct;
+}
+
+/// Which tables the list shows something of; all where a derived table is among them, whose rows cannot be told apart.
+std::vector<bool> shownSources(const BoundCore& bound) {
+    const bool derived =
+        std::any_of(bound.sources.begin(), bound.sources.end(), [](const BoundSource& s) { return !s.table; });
+    std::vector<bool> shown(bound.sources.size(), derived);
+    for (const BoundItem& item : bound.items) {
+        if (!item.expr)
+            shown[static_cast<std::size_t>(item.source)] = true;
+        else
+            forEachField(*item.expr, [&](const ast::FieldRef& field) {
+                if (field.scopeLevel == 0 && field.source >= 0) shown[static_cast<std::size_t>(field.source)] = true;
+            });
+    }
+    return shown;
 }
 
 bool isUpdatable(const ast::Select& select, const BoundCore& bound) {
     const auto canIdentify = [](const BoundSource& source) {
         return source.table && !rowIdName(*source.table).empty();
     };
-    return isSimple(select, bound) && !bound.sources.empty() &&
+    return select.cores.size() == 1 && isSimple(select.cores.front(), bound) && !bound.sources.empty() &&
            std::all_of(bound.sources.begin(), bound.sources.end(), canIdentify);
 }
 
@@ -98,7 +118,7 @@ std::string Emitter::core(const ast::Select& query, std::size_t index, Order ord
     if (core.from) findBracketed(*core.from, bound, false);
     const bool isUnion = query.cores.size() > 1;
     const std::vector<std::string> key =
-        isSimple(query, bound) && order != Order::Any ? keyOf(bound) : std::vector<std::string>{};
+        isSimple(core, bound) && order != Order::Any ? keyOf(bound) : std::vector<std::string>{};
     // A whole table comes in key order by itself; where a condition picks rows by another index, sorting numbers
     // afterwards is cheaper than sorting rows here.
     const bool sortedByReader = order == Order::Reader && plan && !key.empty() && query.orderBy.empty() && !core.top &&
@@ -114,18 +134,13 @@ std::string Emitter::core(const ast::Select& query, std::size_t index, Order ord
         plan->sortColumn = static_cast<int>(hidden);
         sql += ", " + key.front() + " AS s";
     }
-    if (core.top && !isUnion)
-        for (std::size_t k = 0; k < query.orderBy.size(); ++k)
-            sql += ", " + orderKey(query.orderBy[k], query) + " AS k" + std::to_string(k + 1);
-    sql += tail(core);
-    if (core.top) {
-        const std::vector<std::string> limitKey = isSimple(query, bound) ? keyOf(bound) : std::vector<std::string>{};
-        if (isUnion || query.orderBy.empty()) sql += limitKey.empty() ? "" : " ORDER BY " + joined(limitKey);
-        sql = topOf(query, sql,
-                    plan && plan->updatable && plan->sources.front().rowIdColumn >= 0 ? plan->sources.size() : 0);
-    } else if (!isUnion) {
-        sql += orderBy(query, sortedByReader ? std::vector<std::string>{} : key);
-    }
+    if (core.top)
+        sql = topOf(query, core, sql,
+                    plan && plan->sources.size() > 0 && plan->sources.front().rowIdColumn >= 0 ? plan->sources.size()
+                                                                                               : 0);
+    else
+        sql += tail(core);
+    if (!core.top && !isUnion) sql += orderBy(query, sortedByReader ? std::vector<std::string>{} : key);
     scopes_.pop_back();
     return sql;
 }
@@ -138,12 +153,20 @@ std::string Emitter::columnList(const ast::Select& query, std::size_t index) {
     for (std::size_t i = 0; i < bound.items.size(); ++i) {
         const BoundItem& item = bound.items[i];
         const ExprType type = columnType(query, i);
-        std::string sql = item.expr ? valueAs(*item.expr, type)
-                                    : field(bound.sources[static_cast<std::size_t>(item.source)], item.column);
+        std::string sql = item.expr ? valueAs(*item.expr, type) : starField(bound, item, type);
+        // The storage takes HAVING without GROUP BY only where the list itself has an aggregate.
+        if (i == 0 && core.having && core.groupBy.empty()) sql = "iif(count(*) >= 0, " + sql + ", NULL)";
         if (compares && type == ExprType::Text) sql += " COLLATE DE";
         list += (list.empty() ? "" : ", ") + sql + " AS c" + std::to_string(i + 1);
     }
     return list;
+}
+
+/// A field that a star gives, as text where another select of the union makes it one.
+std::string Emitter::starField(const BoundCore& bound, const BoundItem& item, ExprType type) const {
+    const std::string sql = field(bound.sources[static_cast<std::size_t>(item.source)], item.column);
+    if (type != ExprType::Text || item.output.type == ExprType::Text) return sql;
+    return "j_text('" + std::string(1, typeLetter(item.output.type)) + "', " + sql + ")";
 }
 
 std::string Emitter::hiddenColumns(const BoundCore& bound, Compiled& plan) const {
@@ -168,9 +191,7 @@ std::string Emitter::grouping(const ast::SelectCore& core) {
         keys.push_back(comparable(*key));
     if (core.quantifier == ast::SelectCore::Quantifier::DistinctRow && !bound.aggregated) {
         // DISTINCTROW drops rows that differ only in tables of which nothing is shown.
-        std::vector<bool> shown(bound.sources.size(), false);
-        for (const BoundItem& item : bound.items)
-            if (item.output.source >= 0) shown[static_cast<std::size_t>(item.output.source)] = true;
+        const std::vector<bool> shown = shownSources(bound);
         const bool all = std::all_of(shown.begin(), shown.end(), [](bool s) { return s; });
         for (std::size_t i = 0; i < shown.size() && !all; ++i)
             if (shown[i]) keys.push_back(identity(bound.sources[i]));
@@ -191,8 +212,9 @@ std::string Emitter::orderKey(const ast::OrderItem& item, const ast::Select& que
     if (query.cores.size() == 1 && query.cores.front().top) {
         const BoundCore& bound = *scopes_.back();
         const BoundItem& chosen = bound.items[index];
-        return chosen.expr ? comparable(*chosen.expr)
-                           : field(bound.sources[static_cast<std::size_t>(chosen.source)], chosen.column);
+        if (chosen.expr) return comparable(*chosen.expr);
+        const bool text = chosen.output.type == ExprType::Text;
+        return starField(bound, chosen, ExprType::Any) + (text ? " COLLATE DE" : "");
     }
     const std::string place = std::to_string(position);
     return columnType(query, index) == ExprType::Text ? place + " COLLATE DE" : place;
@@ -207,25 +229,37 @@ std::string Emitter::orderBy(const ast::Select& query, const std::vector<std::st
     return keys.empty() ? "" : " ORDER BY " + joined(keys);
 }
 
-/// TOP takes the rows up to the n-th and all that its ORDER BY leaves equal to that one.
-std::string Emitter::topOf(const ast::Select& query, const std::string& body, std::size_t hidden) {
-    const ast::SelectCore& core = *std::find_if(query.cores.begin(), query.cores.end(),
-                                                [](const ast::SelectCore& c) { return c.top.has_value(); });
+/// TOP takes the rows up to the n-th and all that its ORDER BY leaves equal to that one. `list` is the select so far,
+/// with `hidden` columns behind the visible ones.
+std::string Emitter::topOf(const ast::Select& query, const ast::SelectCore& core, const std::string& list,
+                           std::size_t hidden) {
+    const BoundCore& bound = *scopes_.back();
+    const std::vector<std::string> rowKey = isSimple(core, bound) ? keyOf(bound) : std::vector<std::string>{};
     const std::string count = std::to_string(core.top->count);
     if (query.cores.size() > 1 || query.orderBy.empty()) {
+        const std::string body = list + tail(core) + (rowKey.empty() ? "" : " ORDER BY " + joined(rowKey));
         const std::string limit =
             core.top->percent ? "(SELECT (count(*) * " + count + " + 99) / 100 FROM (" + body + "))" : count;
         return "SELECT * FROM (" + body + " LIMIT " + limit + ")";
     }
-    std::vector<std::string> keys;
-    for (std::size_t k = 0; k < query.orderBy.size(); ++k)
-        keys.push_back("k" + std::to_string(k + 1) + (query.orderBy[k].descending ? " DESC" : ""));
+    std::string keys;
+    std::string order;
+    for (std::size_t k = 0; k < query.orderBy.size(); ++k) {
+        const std::string name = "k" + std::to_string(k + 1);
+        keys += ", " + orderKey(query.orderBy[k], query) + " AS " + name;
+        order += (k == 0 ? "" : ", ") + name + (query.orderBy[k].descending ? " DESC" : "");
+    }
+    std::string places = "place";
+    for (std::size_t k = 0; k < rowKey.size(); ++k) {
+        keys += ", " + rowKey[k] + " AS o" + std::to_string(k + 1);
+        places += ", o" + std::to_string(k + 1);
+    }
     const std::string wanted = core.top->percent ? "(total * " + count + " + 99) / 100" : count;
-    std::string columns = numbered("c", scopes_.back()->items.size());
+    std::string columns = numbered("c", bound.items.size());
     if (hidden > 0) columns += ", " + numbered("h", hidden);
-    return "SELECT " + columns + " FROM (SELECT *, rank() OVER (ORDER BY " + joined(keys) +
-           ") AS place, count(*) OVER () AS total FROM (" + body + ")) WHERE place <= " + wanted + " ORDER BY place" +
-           (hidden > 0 ? ", h1" : "");
+    return "SELECT " + columns + " FROM (SELECT *, rank() OVER (ORDER BY " + order +
+           ") AS place, count(*) OVER () AS total FROM (" + list + keys + tail(core) + ")) WHERE place <= " + wanted +
+           " ORDER BY " + places;
 }
 
 /// The key of the first table in the storage's SQL; its identity where it has no key. Nothing for a derived table.
@@ -249,7 +283,7 @@ std::string Emitter::identity(const BoundSource& source) const {
     const auto counter = std::find_if(columns.begin(), columns.end(), [](const Column& c) { return c.counter; });
     if (counter != columns.end()) return field(source, static_cast<int>(counter - columns.begin()));
     const bool hidden = std::find(bracketed_.begin(), bracketed_.end(), source.number) != bracketed_.end();
-    return "t" + std::to_string(source.number) + "." + (hidden ? "j_id" : rowIdName(*source.table));
+    return "t" + std::to_string(source.number) + "." + (hidden ? hiddenIdentity : rowIdName(*source.table));
 }
 
 namespace {
@@ -287,7 +321,8 @@ std::string Emitter::tableSource(const BoundSource& source) const {
                                      [](const Column& column) { return column.counter; });
     const bool hidden = std::find(bracketed_.begin(), bracketed_.end(), source.number) != bracketed_.end();
     if (hidden && !counted)
-        return "(SELECT *, " + rowIdName(*source.table) + " AS j_id FROM " + source.table->qualifiedName() + ")" + name;
+        return "(SELECT *, " + rowIdName(*source.table) + " AS " + hiddenIdentity + " FROM " +
+               source.table->qualifiedName() + ")" + name;
     return source.table->qualifiedName() + name;
 }
 

@@ -3,6 +3,8 @@
 #include "platform/basic/convert.h"
 #include "platform/basic/text.h"
 
+#include <cmath>
+
 namespace jet {
 
 namespace {
@@ -19,6 +21,17 @@ Value storedText(const Column& column, const Value& value) {
     return text;
 }
 
+Value storedDouble(const Value& value) {
+    const double number = basic::CDbl(value);
+    if (!std::isfinite(number)) raise(ErrorNumber::Overflow);
+    return number;
+}
+
+/// A sum of a date and days may have left the calendar.
+Value storedDate(const Value& value) {
+    return value.isDate() ? basic::CDate(value.dateOr().serial()) : basic::CDate(value);
+}
+
 Value converted(const Column& column, const Value& value) {
     switch (column.type) {
     case FieldType::Boolean:
@@ -28,9 +41,9 @@ Value converted(const Column& column, const Value& value) {
     case FieldType::Long:
         return basic::CLng(value);
     case FieldType::Double:
-        return basic::CDbl(value);
+        return storedDouble(value);
     case FieldType::Date:
-        return basic::CDate(value);
+        return storedDate(value);
     case FieldType::Text:
     case FieldType::Memo:
         break;

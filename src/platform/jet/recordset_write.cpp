@@ -200,7 +200,10 @@ void Recordset::State::completeInserted(std::size_t source, std::int64_t identit
 void Recordset::State::updateAll() {
     const std::size_t row = requireRow();
     const std::vector<std::size_t> sources = assignedSources();
+    // Of several tables none is written when one has changed.
     if (sources.empty()) requireUnchanged(0);
+    for (const std::size_t source : sources)
+        if (sources.size() > 1) requireUnchanged(source);
     for (const std::size_t source : sources) {
         updateSource(source);
         showEverywhere(source);
@@ -260,16 +263,20 @@ void Recordset::State::markDeleted(std::size_t row) {
     ++deletedCount;
 }
 
+/// Only a counter is never given twice; any other identity may have passed to a new row, which must not go instead.
 void Recordset::State::remove() {
     requireUpdatable();
     dropPending();
     const std::size_t row = requireRow();
     const std::int64_t gone = rows.identity(row, 0);
     if (gone == RowBlock::noIdentity) raise(ErrorNumber::NoCurrentRecord);
+    const bool reused = std::ranges::none_of(plan->sources.front().table->columns, &Column::counter);
+    const std::vector<std::size_t> shown = reused ? shownColumns(0) : std::vector<std::size_t>();
     sqlite3_stmt* statement =
-        connection->keptStatement("DELETE FROM " + qualifiedTable(*plan, 0) + " WHERE _rowid_ = ?1");
+        connection->keptStatement("DELETE FROM " + qualifiedTable(*plan, 0) + conditionText(shown, 1));
     sqlite3_bind_int64(statement, 1, gone);
-    if (connection->write(statement, plan->sources.front().table->schema) == 0) raise(ErrorNumber::RowDeleted);
+    bindColumns(statement, 1, shown, &value(row, 0));
+    if (connection->write(statement, plan->sources.front().table->schema) == 0) raiseLost(0);
     if (rows.identityWidth == 1) return markDeleted(row);
     for (std::size_t other = 0; other < rows.count; ++other)
         if (rows.identity(other, 0) == gone) markDeleted(other);

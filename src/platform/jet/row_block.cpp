@@ -1,14 +1,22 @@
 #include "platform/jet/row_block.h"
 
+#include "platform/basic/convert.h"
 #include "platform/jet/storage.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <numeric>
 
 namespace jet {
 
 namespace {
+
+/// A result that has left the range of numbers is an error, not a value.
+double finite(double number) {
+    if (!std::isfinite(number)) raise(ErrorNumber::Overflow);
+    return number;
+}
 
 void appendText(sqlite3_stmt* statement, int column, std::vector<Value>& values) {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
@@ -23,11 +31,20 @@ void appendAny(sqlite3_stmt* statement, int column, int storedKind, std::vector<
         values.emplace_back(static_cast<std::int64_t>(sqlite3_column_int64(statement, column)));
         break;
     case SQLITE_FLOAT:
-        values.emplace_back(sqlite3_column_double(statement, column));
+        values.emplace_back(finite(sqlite3_column_double(statement, column)));
         break;
     default:
         appendText(statement, column, values);
     }
+}
+
+/// Sums and products of whole numbers may pass their 32 bits; they go on as doubles.
+void appendWhole(sqlite3_stmt* statement, int column, std::vector<Value>& values) {
+    const std::int64_t whole = sqlite3_column_int64(statement, column);
+    if (sqlite3_column_type(statement, column) == SQLITE_INTEGER && whole == static_cast<std::int32_t>(whole))
+        values.emplace_back(whole);
+    else
+        values.emplace_back(finite(sqlite3_column_double(statement, column)));
 }
 
 void appendValue(sqlite3_stmt* statement, int column, ExprType type, std::vector<Value>& values) {
@@ -42,13 +59,13 @@ void appendValue(sqlite3_stmt* statement, int column, ExprType type, std::vector
         break;
     case ExprType::Integer:
     case ExprType::Long:
-        values.emplace_back(static_cast<std::int64_t>(sqlite3_column_int64(statement, column)));
+        appendWhole(statement, column, values);
         break;
     case ExprType::Double:
-        values.emplace_back(sqlite3_column_double(statement, column));
+        values.emplace_back(finite(sqlite3_column_double(statement, column)));
         break;
     case ExprType::Date:
-        values.emplace_back(Date(sqlite3_column_double(statement, column)));
+        values.emplace_back(basic::CDate(sqlite3_column_double(statement, column)));
         break;
     case ExprType::Text:
         appendText(statement, column, values);

@@ -1,5 +1,7 @@
 #include "platform/jet/storage.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 
 namespace jet {
@@ -21,6 +23,12 @@ ErrorNumber constraintNumber(int extendedCode) {
 /// What cannot be written has met a full disk, a quota or a limit; the storage tells only the first of them apart.
 ErrorNumber inputOutputNumber(int extendedCode) {
     return extendedCode == SQLITE_IOERR_WRITE ? ErrorNumber::DiskFull : ErrorNumber::Corrupt;
+}
+
+/// The storage's own bounds on a statement: "too many SQL variables", "Expression tree is too large", ...
+bool tellsOfSize(std::string_view message) {
+    constexpr std::array<std::string_view, 4> marks{"too many", "too large", "parser stack overflow", "at most"};
+    return std::ranges::any_of(marks, [&](std::string_view mark) { return message.find(mark) != message.npos; });
 }
 
 std::optional<ErrorNumber> fileErrorNumber(int extendedCode) {
@@ -80,6 +88,7 @@ void raiseStorageError(sqlite3* storage) {
     }
     if (const auto number = fileErrorNumber(extendedCode)) raise(*number);
     if (message == "integer overflow") raise(ErrorNumber::Overflow);
+    if (tellsOfSize(message)) raise(ErrorNumber::TooComplex);
     raise(ErrorNumber::Internal, message);
 }
 
