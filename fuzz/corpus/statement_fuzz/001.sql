@@ -1,0 +1,1 @@
+UPDATE Lager SET Menge = Menge WHERE Nr < 4

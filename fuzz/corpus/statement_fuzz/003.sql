@@ -1,0 +1,1 @@
+SELECT Ort, Menge, Datum FROM Lager WHERE Nr = 1

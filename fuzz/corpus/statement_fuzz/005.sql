@@ -1,0 +1,1 @@
+SELECT Menge, Anzahl FROM Lager WHERE Nr = 1

@@ -1,0 +1,1 @@
+UPDATE Lager INNER JOIN Posten ON Lager.Nr = Posten.LagerNr SET Posten.Preis = Lager.Menge WHERE Lager.Flag

@@ -1,0 +1,1 @@
+SELECT Nr, Preis FROM Posten

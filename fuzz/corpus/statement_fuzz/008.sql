@@ -1,0 +1,1 @@
+UPDATE Posten RIGHT JOIN Lager ON Posten.LagerNr = Lager.Nr SET Lager.Flag = True WHERE Posten.Nr Is Null

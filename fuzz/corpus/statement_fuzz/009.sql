@@ -1,0 +1,1 @@
+SELECT Nr FROM Lager WHERE Flag

@@ -1,0 +1,1 @@
+UPDATE Lager SET Info = NULL WHERE Nr = (SELECT DISTINCT LagerNr FROM Posten WHERE Posten.LagerNr = [Lager].[Nr];)

@@ -1,0 +1,1 @@
+UPDATE Lager INNER JOIN Posten ON Lager.Nr = Posten.LagerNr SET Posten.Preis = 1, Lager.Menge = 1

@@ -1,0 +1,1 @@
+INSERT INTO Lager (Anzahl) VALUES (70000)

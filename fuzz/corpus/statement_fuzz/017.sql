@@ -1,0 +1,1 @@
+DELETE Nr, Preis FROM Posten WHERE Nr=10

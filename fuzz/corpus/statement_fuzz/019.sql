@@ -1,0 +1,1 @@
+DELETE Posten.*, Lager.Nr FROM Lager RIGHT JOIN Posten ON Lager.Nr = Posten.LagerNr WHERE Lager.Nr Is Null

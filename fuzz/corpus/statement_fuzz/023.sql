@@ -1,0 +1,1 @@
+DELETE From Posten WHERE LagerNr Not In (Select Nr From Lager;)

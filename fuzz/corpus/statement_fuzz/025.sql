@@ -1,0 +1,1 @@
+SELECT Name FROM Halle WHERE Nr = 3

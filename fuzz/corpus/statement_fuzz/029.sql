@@ -1,0 +1,1 @@
+SELECT Nr, Ort, Flag, Menge FROM Lager WHERE Nr > 6

@@ -1,0 +1,1 @@
+SELECT Max(Nr) FROM Lager

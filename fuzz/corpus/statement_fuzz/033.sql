@@ -1,0 +1,1 @@
+SELECT * FROM Kopie WHERE a = 8

@@ -1,0 +1,1 @@
+SELECT Lager FROM Lager INNER JOIN Halle ON Lager.Nr = Halle.LagerNr

@@ -1,0 +1,1 @@
+SELECT 'it''s', "12"" Rohr", Nr FROM Lager WHERE Info = "Größe 12"" Rohr"

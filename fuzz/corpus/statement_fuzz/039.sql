@@ -1,0 +1,1 @@
+SELECT Nr FROM Lager WHERE((Ort='Ulm')or(Anzahl>7))ORDER BY Ort

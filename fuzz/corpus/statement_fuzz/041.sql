@@ -1,0 +1,1 @@
+SELECT Lager.Nr, Halle.Nr, Name FROM Lager INNER JOIN Halle ON Lager.Nr = Halle.LagerNr

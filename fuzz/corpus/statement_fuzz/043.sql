@@ -1,0 +1,1 @@
+SELECT Nr, Format(Lager.Menge,'0.00') AS Menge FROM Lager WHERE Menge Is Not Null ORDER BY Lager.Menge

@@ -1,0 +1,1 @@
+SELECT Nr, Format(Menge,'0.00') AS Wert FROM Lager WHERE Menge Is Not Null ORDER BY Wert DESC

@@ -1,0 +1,1 @@
+SELECT Anzahl * 2 AS Doppelt, Doppelt + 1 AS Mehr FROM Lager WHERE Nr = 1

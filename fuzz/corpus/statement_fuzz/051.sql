@@ -1,0 +1,1 @@
+SELECT TOP 2 Nr FROM Lager WHERE Anzahl > 0

@@ -1,0 +1,1 @@
+SELECT Count(*) AS Anzahl FROM (SELECT DISTINCT Ort FROM Lager) AS Orte

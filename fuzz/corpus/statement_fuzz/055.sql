@@ -1,0 +1,1 @@
+(SELECT LagerNr FROM Posten;) UNION (SELECT null FROM Halle;) ORDER BY 1

@@ -1,0 +1,1 @@
+SELECT Summe.Lager, Summe.Menge FROM (SELECT Lager, Sum(Menge) AS Menge FROM Lager GROUP BY Lager) AS Summe WHERE Summe.Menge > 5 ORDER BY Summe.Menge

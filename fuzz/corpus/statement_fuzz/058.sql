@@ -1,0 +1,1 @@
+SELECT Nr FROM Lager WHERE Exists (SELECT * FROM Posten WHERE Posten.LagerNr = [Lager].[Nr] AND Nr > 10)

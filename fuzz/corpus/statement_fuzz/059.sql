@@ -1,0 +1,1 @@
+SELECT Lager.Nr, Halle.Name FROM Lager, Halle WHERE Lager.Nr = Halle.LagerNr AND Lager.Flag

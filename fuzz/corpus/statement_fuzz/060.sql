@@ -1,0 +1,1 @@
+SELECT Nr, (SELECT Name FROM Halle WHERE Halle.LagerNr = Lager.Nr;) AS Halle FROM Lager WHERE Nr < 4

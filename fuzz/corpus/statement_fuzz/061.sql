@@ -1,0 +1,1 @@
+SELECT (SELECT Preis FROM Posten WHERE LagerNr = 1) AS Preis

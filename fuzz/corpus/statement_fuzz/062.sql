@@ -1,0 +1,1 @@
+SELECT Lager, Count(*) AS Anz, Sum(Anzahl) FROM Lager GROUP BY Lager HAVING Count(*) > 0 And Lager Is Not Null ORDER BY Count(*) DESC, Lager

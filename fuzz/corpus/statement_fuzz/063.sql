@@ -1,0 +1,1 @@
+SELECT Format(Datum,'yyyy') AS Jahr, Count(*) FROM Lager GROUP BY Format(Datum,'yyyy') ORDER BY Format(Datum,'yyyy') DESC

@@ -1,0 +1,1 @@
+SELECT Date(), Now, Format(Now(),'hh:nn') WHERE Date = #06-15-2026#

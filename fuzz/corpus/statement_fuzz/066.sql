@@ -1,0 +1,1 @@
+SELECT Lager.Nr, Posten.Nr FROM Lager LEFT JOIN Posten ON Lager.Nr = Posten.LagerNr WHERE Lager.Nr < 4 ORDER BY Lager.Nr, Posten.Nr

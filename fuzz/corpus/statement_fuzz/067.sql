@@ -1,0 +1,1 @@
+SELECT Lager.Nr, Posten.Nr FROM Lager RIGHT JOIN Posten ON Lager.Nr = Posten.LagerNr ORDER BY Posten.Nr

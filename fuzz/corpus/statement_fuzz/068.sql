@@ -1,0 +1,1 @@
+SELECT Lager.Nr, Posten.Nr, Halle.Name FROM (Lager INNER JOIN Posten ON Lager.Nr = Posten.LagerNr) LEFT JOIN Halle ON Halle.LagerNr = Lager.Nr ORDER BY Posten.Nr

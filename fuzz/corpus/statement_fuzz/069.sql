@@ -1,0 +1,1 @@
+SELECT Lager.Nr, Posten.Nr, Halle.Name FROM Lager LEFT JOIN (Posten INNER JOIN Halle ON Posten.LagerNr = Halle.LagerNr) ON Lager.Nr = Posten.LagerNr WHERE Lager.Nr <= 3 ORDER BY Lager.Nr, Posten.Nr

@@ -1,0 +1,1 @@
+SELECT Halle.Name, Posten.Nr FROM (Lager INNER JOIN Posten ON Lager.Nr = Posten.LagerNr) RIGHT JOIN Halle ON Lager.Nr = Halle.LagerNr ORDER BY Halle.Nr, Posten.Nr

@@ -1,0 +1,1 @@
+SELECT Lager.Nr, Posten.Nr, Halle.Nr FROM (Lager RIGHT JOIN Posten ON Lager.Nr = Posten.LagerNr) RIGHT JOIN Halle ON Halle.LagerNr = Lager.Nr ORDER BY Halle.Nr, Posten.Nr

@@ -1,0 +1,1 @@
+SELECT Lager.Nr, Halle.Nr, Posten.Nr FROM Lager INNER JOIN (Halle LEFT JOIN Posten ON Posten.LagerNr = Halle.LagerNr) ON Lager.Nr = Halle.LagerNr ORDER BY Halle.Nr, Posten.Nr

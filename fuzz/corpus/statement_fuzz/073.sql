@@ -1,0 +1,1 @@
+SELECT a.Nr, b.Nr FROM Halle AS a LEFT JOIN Halle AS b ON a.LagerNr = b.Nr ORDER BY a.Nr

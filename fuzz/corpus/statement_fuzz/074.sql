@@ -1,0 +1,1 @@
+SELECT Halle.*, Lager.Ort FROM Lager RIGHT JOIN Halle ON Lager.Nr = Halle.LagerNr ORDER BY Halle.Nr

@@ -1,0 +1,1 @@
+SELECT Dach.Nr FROM Lager

@@ -1,0 +1,1 @@
+SELECT Nr FROM Lager UNION SELECT Nr, Name FROM Halle

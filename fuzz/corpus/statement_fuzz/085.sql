@@ -1,0 +1,1 @@
+INSERT INTO Halle (Nr, Name) VALUES (5)

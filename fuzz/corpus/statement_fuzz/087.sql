@@ -1,0 +1,1 @@
+SELECT 1 FROM Lager INNER JOIN Halle ON Lager.Ort = Halle.Nr

@@ -1,0 +1,1 @@
+SELECT Nr FROM Lager WHERE Ort = 'ZÜRICH' Or Ort = 'Apfel'

@@ -1,0 +1,1 @@
+SELECT Ort FROM Lager ORDER BY Ort

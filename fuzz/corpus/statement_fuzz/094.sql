@@ -1,0 +1,1 @@
+SELECT a.Nr, b.Nr FROM Lager AS a INNER JOIN Lager AS b ON a.Lager = b.Lager WHERE a.Nr = 6 ORDER BY b.Nr

@@ -1,0 +1,1 @@
+SELECT 'Zürich' Like 'z*', 'Zürich' Like '%RICH', 'Zürich' Like 'z?rich', 'a7' Like 'a#', 'c' Like '[b-f]', 'c' Like '[!b-f]', 'a*b' Like 'a[*]b', 'axb' Like 'a[*]b'

@@ -1,0 +1,1 @@
+SELECT 'x_y' Like 'x_y', 'xay' Like 'x_y', 'a.c' Like 'a.c', 'abc' Like 'a.c', '(1+1)' Like '(1+1)'

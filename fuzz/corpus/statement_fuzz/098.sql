@@ -1,0 +1,1 @@
+SELECT Nr, Menge Like '7,*', Datum Like '24.12.*' FROM Lager WHERE Menge Like '7,5' Or Datum Like '24.12%' Or Anzahl Like '5'

@@ -1,0 +1,1 @@
+SELECT Nr FROM Lager WHERE Info Not Like '*b' And Info Like Info

@@ -1,0 +1,1 @@
+SELECT Len('Größe'), Left('Größe', 3), Mid('Größe', 3, 2), Mid('abc', 9), Right('Größe', 2), UCase('straße'), LCase('ÄÖ'), InStr('Größe','ß'), InStr('','x'), Trim('  x '), String(3,'ü'), Chr(228)

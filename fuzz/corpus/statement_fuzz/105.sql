@@ -1,0 +1,1 @@
+SELECT Min(Ort), Max(Left(Ort, 3)) FROM Lager WHERE Nr In (3, 4, 5, 6)

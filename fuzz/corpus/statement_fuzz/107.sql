@@ -1,0 +1,1 @@
+SELECT Nr, Flag FROM Lager

@@ -1,0 +1,1 @@
+SELECT Nr FROM Lager ORDER BY Flag, Nr DESC

@@ -1,0 +1,1 @@
+SELECT IIf(3,'j','n'), IIf(0,'j','n'), IIf(Null,'j','n'), (2 > 1) + 0, Nr FROM Lager WHERE Anzahl

@@ -1,0 +1,1 @@
+SELECT 1 And 8, Not 3 = 3 Or 1 = 1, True Or Null And False, Not Null, False And Null, Null Or True

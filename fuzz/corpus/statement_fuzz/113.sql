@@ -1,0 +1,1 @@
+SELECT Nr FROM Lager WHERE Anzahl <> NULL and Anzahl > 2

@@ -1,0 +1,1 @@
+SELECT Count(*) FROM Lager WHERE Lager <> 'x'

@@ -1,0 +1,1 @@
+SELECT Count(*) FROM Lager WHERE Not Lager = 'x' And Lager Not In ('y') And Lager Not Like 'z*'

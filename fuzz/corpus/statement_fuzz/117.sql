@@ -1,0 +1,1 @@
+SELECT 'Nr ' & Null, Null & Null, Null + 'x', 'a' + 'b'

@@ -1,0 +1,1 @@
+SELECT Count(*), Count(Anzahl), Sum(Anzahl), Min(Anzahl), Max(Anzahl), Avg(Anzahl) FROM Lager

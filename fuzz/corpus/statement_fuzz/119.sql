@@ -1,0 +1,1 @@
+SELECT Count(*), Count(Wert), Sum(Wert), Max(Nr), Min(Wert), Avg(Wert) FROM Leer

@@ -1,0 +1,1 @@
+SELECT Len(Null), Left(Null, 2), UCase(Null), Year(Null), DateAdd('d',1,Null), DateDiff('d',Null,Date()), CVDate(Null), Format(Null,'0.00') = '', IsNull(Null), IsNull(0), Nz(Null, 5)

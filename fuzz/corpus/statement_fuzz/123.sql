@@ -1,0 +1,1 @@
+SELECT First(Nr), Last(Nr) FROM Posten

@@ -1,0 +1,1 @@
+SELECT CDbl('7.25'), CDbl('7,25'), Val('4,9'), Val('3 7x'), Val('x'), CInt(4.5), CInt(5.5), Int(-1.5), Fix(-1.5), Round(2.5), CStr(0.75), Str(0.75), Str(12)

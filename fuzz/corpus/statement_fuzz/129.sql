@@ -1,0 +1,1 @@
+SELECT Datum + 1, Datum - #01-01-2020#, Datum - 31, Year(Datum), Month(Datum), Day(Datum) FROM Lager WHERE Nr = 4

@@ -1,0 +1,1 @@
+SELECT DateDiff('m',#06-30-2019#,#07-01-2019#), DateDiff('yyyy',#12-31-2019#,#01-01-2020#), DateDiff('d', Datum, '24.12.19'), datediff('d',Datum,Now()) FROM Lager WHERE Nr = 1

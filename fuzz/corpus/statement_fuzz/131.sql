@@ -1,0 +1,1 @@
+SELECT DateAdd('m',1,#05-31-2020#), DATEADD('d',-2,CVDATE('01.03.2020')), DateAdd('yyyy',1,#02-29-2020#), DateAdd('ww',1,#02-29-2020#), DateSerial(2020,13,1)

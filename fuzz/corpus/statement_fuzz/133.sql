@@ -1,0 +1,1 @@
+SELECT Format(7654.3,'##,##0.00'), Format(3.175,'0.00'), Format('7,5','0.00'), Format(12,'0000'), Format('ÄRGER','<'), Format('straße','>'), Format(#09-04-2019#,'yyyymmdd'), Format(#09-04-2019#,'mm-dd-yyyy')

@@ -1,0 +1,1 @@
+SELECT Nr / Menge FROM Lager WHERE Nr = 5

@@ -1,0 +1,1 @@
+SELECT IIf(Nr = 1, Datum, 'keins'), IIf(Nr = 1, Menge, Null), IIf(Nr = 1, 5, 7.5) FROM Lager WHERE Nr < 3
