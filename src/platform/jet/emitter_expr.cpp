@@ -60,6 +60,42 @@ const char* functionOf(ast::Binary::Op op) {
 
 bool isNativeNumber(ExprType type) { return isNumeric(type) || type == ExprType::Date; }
 
+// The storage's parser goes less than a hundred brackets deep, so what is read from left to right anyway is written
+// without the brackets of its left side.
+
+bool isBinary(const ast::Expr& expr, std::initializer_list<ast::Binary::Op> ops) {
+    const auto* binary = std::get_if<ast::Binary>(&expr.node);
+    return binary && std::find(ops.begin(), ops.end(), binary->op) != ops.end();
+}
+
+std::string inner(const std::string& bracketed) { return bracketed.substr(1, bracketed.size() - 2); }
+
+bool isNative(const ast::Binary& binary) {
+    return symbolOf(binary.op) && isNativeNumber(binary.left->type) && isNativeNumber(binary.right->type);
+}
+
+/// Sums and differences on the left of a sum, products on the left of a product.
+bool continues(const ast::Expr& left, ast::Binary::Op op) {
+    using Op = ast::Binary::Op;
+    const bool same = op == Op::Multiply ? isBinary(left, {op}) : isBinary(left, {Op::Add, Op::Subtract});
+    return same && isNative(std::get<ast::Binary>(left.node));
+}
+
+/// The operands of a chain of &, at most as many as a function of the storage takes.
+std::vector<const ast::Expr*> concatenated(const ast::Binary& binary) {
+    constexpr std::size_t most = 100;
+    std::vector<const ast::Expr*> operands{binary.right.get()};
+    const ast::Expr* left = binary.left.get();
+    while (isBinary(*left, {ast::Binary::Op::Concat}) && operands.size() + 1 < most) {
+        const auto& further = std::get<ast::Binary>(left->node);
+        operands.push_back(further.right.get());
+        left = further.left.get();
+    }
+    operands.push_back(left);
+    std::reverse(operands.begin(), operands.end());
+    return operands;
+}
+
 bool isNullLiteral(const ast::Expr& expr) {
     const auto* constant = std::get_if<ast::Constant>(&expr.node);
     return constant && constant->kind == ast::Constant::Kind::Null;
@@ -190,7 +226,9 @@ std::string Emitter::condition(const ast::Expr& expr) {
 }
 
 std::string Emitter::logical(const ast::Binary& binary) {
-    const std::string a = condition(*binary.left);
+    const bool chained = binary.op == ast::Binary::Op::And || binary.op == ast::Binary::Op::Or;
+    const std::string a =
+        chained && isBinary(*binary.left, {binary.op}) ? inner(condition(*binary.left)) : condition(*binary.left);
     const std::string b = condition(*binary.right);
     switch (binary.op) {
     case ast::Binary::Op::And:
@@ -266,13 +304,16 @@ std::string Emitter::value(const ast::Expr& expr) {
 }
 
 std::string Emitter::arithmetic(const ast::Binary& binary, const ast::Expr&) {
-    const char* symbol = symbolOf(binary.op);
-    if (symbol && isNativeNumber(binary.left->type) && isNativeNumber(binary.right->type))
-        return "(" + value(*binary.left) + " " + symbol + " " + value(*binary.right) + ")";
+    if (isNative(binary)) {
+        const std::string left = value(*binary.left);
+        return "(" + (continues(*binary.left, binary.op) ? inner(left) : left) + " " + symbolOf(binary.op) + " " +
+               value(*binary.right) + ")";
+    }
+    if (binary.op == ast::Binary::Op::Concat) return function(functionOf(binary.op), concatenated(binary));
     return function(functionOf(binary.op), {binary.left.get(), binary.right.get()});
 }
 
-std::string Emitter::function(const char* name, std::initializer_list<const ast::Expr*> arguments) {
+std::string Emitter::function(const char* name, const std::vector<const ast::Expr*>& arguments) {
     std::string types;
     std::string values;
     for (const ast::Expr* argument : arguments) {

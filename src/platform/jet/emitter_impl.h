@@ -53,7 +53,7 @@ private:
     std::string comparison(const ast::Binary& binary, const char* symbol);
     std::string logical(const ast::Binary& binary);
     std::string arithmetic(const ast::Binary& binary, const ast::Expr& expr);
-    std::string function(const char* name, std::initializer_list<const ast::Expr*> arguments);
+    std::string function(const char* name, const std::vector<const ast::Expr*>& arguments);
     std::string call(const ast::Call& call);
     std::string aggregate(const ast::Call& call);
     std::string scalar(const ast::Scalar& scalar);

@@ -130,6 +130,17 @@ void callOperator(sqlite3_context* context, int count, sqlite3_value** values) {
     });
 }
 
+/// j_concat(types, value, ...): a chain of &, from left to right.
+void callConcat(sqlite3_context* context, int count, sqlite3_value** values) {
+    guarded(context, [&] {
+        const std::string_view types = textOf(values[0]);
+        Value joined = valueOf(values[1], types[0]);
+        for (std::size_t i = 1; i + 1 < static_cast<std::size_t>(count); ++i)
+            joined = basic::concat(joined, valueOf(values[i + 1], types[i]));
+        give(context, joined);
+    });
+}
+
 void callNegate(sqlite3_context* context, int count, sqlite3_value** values) {
     guarded(context, [&] {
         withArguments(count, values, [&](std::span<const Value> a) { give(context, basic::negate(a[0])); });
@@ -271,7 +282,7 @@ void addOperators(sqlite3* connection) {
     addScalar(connection, "j_intdivide", 3, callOperator<basic::integerDivide>);
     addScalar(connection, "j_modulo", 3, callOperator<basic::modulo>);
     addScalar(connection, "j_power", 3, callOperator<basic::power>);
-    addScalar(connection, "j_concat", 3, callOperator<basic::concat>);
+    addScalar(connection, "j_concat", -1, callConcat);
     addScalar(connection, "j_negate", 2, callNegate);
     addScalar(connection, "j_text", 2, callText);
     addScalar(connection, "j_like", 3, callLike);
