@@ -27,12 +27,15 @@ Compiled Emitter::planOfChange() const {
 }
 
 /// The value converted to the field's type and checked against its width.
-std::string Emitter::stored(int column, const std::string& value, ExprType type) const {
+std::string Emitter::stored(int column, const std::string& value, ExprType type, Use use) const {
     const Column& field = binding_.target->columns[static_cast<std::size_t>(column)];
     std::string name = "'";
     for (const char c : field.name.text())
         name += c == '\'' ? "''" : std::string(1, c);
-    const int flags = (field.counter ? 1 : 0) | (field.required ? 2 : 0) | (field.allowZeroLength ? 4 : 0);
+    // Null asks for the next number only where a row begins.
+    const bool given = field.counter && use == Use::NewRow;
+    const bool required = field.required || (field.counter && !given);
+    const int flags = (given ? 1 : 0) | (required ? 2 : 0) | (field.allowZeroLength ? 4 : 0);
     return "j_store('" + std::string(1, typeLetter(type)) + "', " + value + ", " +
            std::to_string(static_cast<int>(field.type)) + ", " + std::to_string(field.size) + ", " +
            std::to_string(flags) + ", " + name + "')";
@@ -68,7 +71,7 @@ Compiled Emitter::change(const ast::Update& update) {
     for (std::size_t i = 0; i < update.assignments.size(); ++i) {
         const int column = binding_.targetColumns[i];
         const ast::Expr& expr = *update.assignments[i].value;
-        const std::string value = stored(column, this->value(expr), expr.type);
+        const std::string value = stored(column, this->value(expr), expr.type, Use::Change);
         const std::string name = "v" + std::to_string(i + 1);
         values += ", " + value + " AS " + name;
         set += (set.empty() ? "" : ", ") + quoted(target.table->columns[static_cast<std::size_t>(column)].name.text()) +
@@ -120,7 +123,7 @@ Compiled Emitter::change(const ast::Insert& insert) {
         const std::string value = select ? "c" + std::to_string(i + 1) : this->value(*insert.values[i]);
         const char* comma = i == 0 ? "" : ", ";
         names += comma + quoted(plan.target->columns[static_cast<std::size_t>(column)].name.text());
-        values += comma + stored(column, value, type);
+        values += comma + stored(column, value, type, Use::NewRow);
     }
     plan.sql = "INSERT OR IGNORE INTO " + plan.target->qualifiedName() + " (" + names + ")";
     if (insert.select)

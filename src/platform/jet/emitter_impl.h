@@ -43,7 +43,8 @@ private:
 
     // emitter_change.cpp
     Compiled planOfChange() const;
-    std::string stored(int column, const std::string& value, ExprType type) const;
+    enum class Use { NewRow, Change };
+    std::string stored(int column, const std::string& value, ExprType type, Use use) const;
 
     // emitter_expr.cpp
     std::string value(const ast::Expr& expr);
