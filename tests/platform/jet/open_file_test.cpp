@@ -170,6 +170,31 @@ TEST(OpenFile, AFullDiskLeavesTheFileAsItWas) {
     EXPECT_EQ("200", support::oneValue(database, "SELECT Count(*) FROM tbGast"));
 }
 
+TEST(OpenFile, ATransactionHoldsItsFileBeforeItWrites) {
+    JetFolder house;
+    {
+        jet::Database database = house.create("Zentral.mdb");
+        fillTable(database);
+    }
+    support::Station other([&](support::Channel& channel) {
+        jet::Database database = house.open("Zentral.mdb");
+        jet::Transaction transaction(database, "tbGast");
+        channel.say("begonnen");
+        std::ignore = channel.hear();
+        database.Execute("UPDATE tbGast SET Ort = 'anderer' WHERE ID = 1");
+        transaction.Commit();
+    });
+    ASSERT_EQ("begonnen", other.channel().hear());
+    jet::Database database = house.open("Zentral.mdb");
+    house.workspace.setLockTimeout(50);
+    // What both have read neither may write on the strength of it, so the second does not even begin.
+    EXPECT_EQ(3218, errorNumber([&] { const jet::Transaction transaction(database, "tbGast"); }));
+    EXPECT_EQ("xxx", support::oneValue(database, "SELECT Left(Ort, 3) FROM tbGast WHERE ID = 1"));
+    other.channel().say("weiter");
+    EXPECT_EQ(0, other.wait());
+    EXPECT_EQ("anderer", support::oneValue(database, "SELECT Ort FROM tbGast WHERE ID = 1"));
+}
+
 TEST(OpenFile, WaitsForALockedFileAndThenSaysSo) {
     JetFolder house;
     {
