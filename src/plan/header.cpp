@@ -85,6 +85,7 @@ std::vector<Farbe> Tageslinien(Date start, int tage, Date heute, const std::vect
 
 std::vector<tplFeiertag> FeiertageAb(Date start, const std::vector<masterdata::Feiertag>& rows) {
     std::vector<tplFeiertag> feiertage;
+    feiertage.reserve(rows.size());
     for (const auto& row : rows)
         feiertage.push_back({.Datum = Format(row.Datum, "dd.mm.yyyy"),
                              .Bezeichnung = row.Bezeichnung,
