@@ -1,5 +1,6 @@
 #include "store/sample_stays.h"
 
+#include <algorithm>
 #include <span>
 
 namespace store {
@@ -148,6 +149,7 @@ std::vector<SampleStay> sampleStays(Date today) {
     std::vector<SampleStay> stays;
     append(stays, kFromToday, today, today);
     append(stays, kFromMonday, mondayOf(today), today);
+    std::ranges::stable_sort(stays.begin() + 1, stays.end(), {}, &SampleStay::Von);
     return stays;
 }
 

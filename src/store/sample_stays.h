@@ -29,9 +29,9 @@ struct SampleStay {
     bool Angezahlt; ///< to come, and partly paid already
 };
 
-/// The stays as they lie around `today`, the first of them arriving on it. Most follow the days of the week: business
-/// guests come on Mondays, couples at the weekend, families from Saturday to Saturday. In a room no two share a night,
-/// but for those of the waiting row. Offers arrive after today.
+/// The stays as they lie around `today`: first one that arrives on it, then all others in order of arrival. Most follow
+/// the days of the week: business guests come on Mondays, couples at the weekend, families from Saturday to Saturday.
+/// In a room no two share a night, but for those of the waiting row. Offers arrive after today.
 [[nodiscard]] std::vector<SampleStay> sampleStays(basic::Date today);
 
 } // namespace store

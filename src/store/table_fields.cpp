@@ -1,5 +1,6 @@
 #include "store/table_fields.h"
 
+#include "platform/basic/quietly.h"
 #include "platform/basic/text.h"
 
 #include <algorithm>
@@ -31,20 +32,10 @@ jet::FieldDef firstField(const clsTabFelder& change) {
     return jet::CreateField("ID" + basic::Mid(change.TabellenName, 3), change.FeldTyp);
 }
 
-template <typename Step>
-bool succeeds(Step step) {
-    try {
-        step();
-        return true;
-    } catch (const jet::Error&) {
-        return false;
-    }
-}
-
 } // namespace
 
 bool clsTabFelder::Anfügen(const jet::Workspace& workspace) const {
-    return succeeds([&] {
+    return basic::quietly([&] {
         jet::Database database = open(workspace, *this);
         if (!hasField(database.GetTableDef(TabellenName), FeldName))
             database.AppendField(TabellenName, describedField(*this));
@@ -52,7 +43,7 @@ bool clsTabFelder::Anfügen(const jet::Workspace& workspace) const {
 }
 
 bool clsTabFelder::NeueTabelle(const jet::Workspace& workspace) const {
-    return succeeds([&] {
+    return basic::quietly([&] {
         jet::Database database = open(workspace, *this);
         if (database.HasTable(TabellenName)) return;
         jet::TableDef table;

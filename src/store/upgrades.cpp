@@ -1,5 +1,6 @@
 #include "store/upgrades.h"
 
+#include "platform/basic/quietly.h"
 #include "platform/jet/sql_name.h"
 #include "store/database_files.h"
 #include "store/schema.h"
@@ -7,12 +8,14 @@
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <span>
 
 namespace store {
 
 namespace {
 
+using basic::quietly;
 using jet::FieldType;
 
 // --- steps with a question
@@ -81,17 +84,6 @@ struct Place {
     }
 };
 
-/// Any error of the engine is False.
-template <typename Action>
-bool succeeds(Action action) {
-    try {
-        action();
-        return true;
-    } catch (const jet::Error&) {
-        return false;
-    }
-}
-
 bool hasField(const jet::TableDef& table, std::string_view name) {
     const jet::SqlName wanted(name);
     return std::ranges::any_of(table.Fields,
@@ -104,7 +96,7 @@ bool isLinked(const Place& place, const std::string& table) {
 
 bool link(const Place& place, const std::string& table, const std::string& file) {
     if (place.target == UpgradeTarget::Beispiel || place.files.Links.LokalDB.empty()) return true;
-    return succeeds([&] {
+    return quietly([&] {
         if (!isLinked(place, table)) linkOrRefresh(place.workspace, place.files.Links, true, table, file);
     });
 }
@@ -167,45 +159,51 @@ bool linksHoldAll(const Place& place) {
 
 /// The steps open their file for each change; a house that has everything is not to wait for that.
 bool isUpToDate(const Place& place) {
-    bool result = false;
-    return succeeds([&] {
-               result = fileHoldsAll(place, HomeFile::Herbergo) && fileHoldsAll(place, HomeFile::Zentral) &&
-                        linksHoldAll(place);
-           }) &&
-           result;
+    return quietly(false, [&] {
+        return fileHoldsAll(place, HomeFile::Herbergo) && fileHoldsAll(place, HomeFile::Zentral) && linksHoldAll(place);
+    });
 }
 
 // --- older steps
 
-/// True when the field was not there before.
-bool appendMissing(jet::Database& database, std::string_view table, const jet::FieldDef& field) {
-    if (hasField(database.GetTableDef(table), field.Name)) return false;
-    database.AppendField(table, field);
-    return true;
+/// Appends the fields that the table lacks; gives the last of their names, empty where none was missing.
+std::string appendMissing(jet::Database& database, std::string_view table,
+                          std::initializer_list<jet::FieldDef> fields) {
+    const jet::TableDef before = database.GetTableDef(table);
+    std::string last;
+    for (const jet::FieldDef& field : fields) {
+        if (hasField(before, field.Name)) continue;
+        database.AppendField(table, field);
+        last = field.Name;
+    }
+    return last;
 }
 
 /// Opens the file for the step; an error ends it, what it did until then stays.
 template <typename Action>
 void inFile(const jet::Workspace& workspace, const std::string& file, Action action) {
     if (file.empty()) return;
-    (void)succeeds([&] {
+    quietly([&] {
         jet::Database database = workspace.OpenDatabase(file, false, false, openConnect());
         action(database);
     });
 }
 
-// Wäsche1 comes last: as long as it is absent, a step that was cut short starts over and the rows still get their days.
 void appendLaundry(jet::Database& database) {
-    appendMissing(database, "tblBelegung", jet::CreateField("Wäsche2", FieldType::Integer));
-    appendMissing(database, "tblBelegung", jet::CreateField("Frühstück", FieldType::Boolean));
-    if (appendMissing(database, "tblBelegung", jet::CreateField("Wäsche1", FieldType::Integer)))
+    // Wäsche1 comes last: as long as it is absent, a step that was cut short starts over and the rows get their days.
+    const std::string last = appendMissing(database, "tblBelegung",
+                                           {jet::CreateField("Wäsche2", FieldType::Integer),
+                                            jet::CreateField("Frühstück", FieldType::Boolean),
+                                            jet::CreateField("Wäsche1", FieldType::Integer)});
+    if (last == "Wäsche1")
         database.Execute("UPDATE tblBelegung SET tblBelegung.Wäsche1 = 6, tblBelegung.Wäsche2 = 3, "
                          "tblBelegung.Frühstück = True;");
 }
 
 void appendRoomDefaults(jet::Database& database) {
-    appendMissing(database, "tbZimmernummern", jet::CreateField("AnzahlGästeDefault", FieldType::Integer));
-    appendMissing(database, "tbZimmernummern", jet::CreateField("PreisDefault", FieldType::Double));
+    appendMissing(database, "tbZimmernummern",
+                  {jet::CreateField("AnzahlGästeDefault", FieldType::Integer),
+                   jet::CreateField("PreisDefault", FieldType::Double)});
 }
 
 } // namespace
@@ -227,7 +225,7 @@ void addBemerkAdr(const jet::Workspace& workspace, const std::string& file) {
     inFile(workspace, file, [](jet::Database& database) {
         jet::FieldDef remark = jet::CreateField("BemerkAdr", FieldType::Memo);
         remark.AllowZeroLength = true;
-        appendMissing(database, "Address", remark);
+        appendMissing(database, "Address", {remark});
     });
 }
 
