@@ -47,26 +47,41 @@ struct Planfenster {
 
 enum class Next { LoadAgain, End };
 
-Next runPlan(start::GlobalState& g) {
+/// The window while the load makes it, or why there is none.
+struct Building {
     std::unique_ptr<Planfenster> window;
-    start::Ladeschritte steps;
-    steps.PlanAufbauen = [&] {
+    std::string failure;
+
+    [[nodiscard]] bool build(start::GlobalState& g) {
         try {
             window = std::make_unique<Planfenster>(g);
+            return window->form.Fehler().empty();
         } catch (const jet::Error& error) {
-            g.dialogs.MsgBox(error.text(), {.icon = services::MsgIcon::Critical}, g.strTitel());
+            failure = error.text();
+            return false;
         }
-    };
-    Ladeergebnis loaded = Ladeergebnis::Ende;
-    {
-        const start::frmMaskeAufbauen progress;
-        start::ProgressWindow progressWindow(progress);
-        progressWindow.appear();
-        loaded = start::PlanLaden(g, steps);
     }
+};
+
+Ladeergebnis load(start::GlobalState& g, Building& building) {
+    const start::frmMaskeAufbauen progress;
+    start::ProgressWindow progressWindow(progress);
+    progressWindow.appear();
+    start::Ladeschritte steps;
+    steps.PlanAufbauen = [&] { return building.build(g); };
+    return start::PlanLaden(g, steps);
+}
+
+Next runPlan(start::GlobalState& g) {
+    Building building;
+    const Ladeergebnis loaded = load(g, building);
     if (loaded == Ladeergebnis::Neuladen) return Next::LoadAgain;
-    if (loaded == Ladeergebnis::Ende || !window) return Next::End;
-    window->window.show();
+    if (loaded == Ladeergebnis::Ende) return Next::End;
+    if (!building.window) {
+        g.dialogs.MsgBox(building.failure, {.icon = services::MsgIcon::Critical}, g.strTitel());
+        return Next::End;
+    }
+    building.window->window.show();
     QApplication::exec();
     g.FormularGeladen = false;
     return g.Neuaufbau ? Next::LoadAgain : Next::End;

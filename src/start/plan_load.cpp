@@ -3,6 +3,8 @@
 #include "platform/basic/quietly.h"
 #include "start/paths.h"
 #include "start/system_folders.h"
+#include "start/upgrades.h"
+#include "store/sample_dates.h"
 
 #include <filesystem>
 
@@ -22,16 +24,22 @@ void werkzeugeSuchen(GlobalState& g) {
     g.werkzeuge = {vorhanden("holdaten.exe"), vorhanden("gebdaten.exe"), vorhanden("auswerter.exe")};
 }
 
+bool aufbauen(const Ladeschritte& schritte) {
+    return !schritte.PlanAufbauen || basic::quietly(false, schritte.PlanAufbauen);
+}
+
 void anzeigen(GlobalState& g, const Ladeschritte& schritte) {
-    ausführen(schritte.PlanAufbauen);
-    ausführen(g.BeispielAktiv ? schritte.BeispielUpgrades : schritte.ParameterUpgrade);
+    if (g.BeispielAktiv)
+        beispielAktualisieren(g);
+    else
+        parameterAktualisieren(g);
     ausführen(schritte.FeiertagZeigen);
     ausführen(schritte.VorgabelandLesen);
 }
 
 void abschließen(GlobalState& g, const Ladeschritte& schritte) {
     ausführen(schritte.ZimmervorgabenLesen);
-    ausführen(schritte.Upgrades);
+    datenAktualisieren(g);
     ausführen(schritte.AngebotePrüfen);
     clsPfade(g.settings).Speichern(schlüssel(g.instanz.Nummer).LokalDB, g.instanz.Datei(g.instanz.Namen().Lokal));
     g.OhneBeispielFrage = false;
@@ -43,16 +51,26 @@ Ladeergebnis PlanLaden(GlobalState& g, const Ladeschritte& schritte) {
     g.Neuaufbau = false;
     ausführen(schritte.HeuteZeigen);
     g.FormularGeladen = true;
-    const Ladeergebnis gelesen = EinstellungenLesen(g, schritte.Lesen);
+    const Ladeergebnis gelesen = EinstellungenLesen(g, schritte.Zahlungsmigration);
     if (gelesen != Ladeergebnis::Fertig) {
         g.FormularGeladen = false;
         return gelesen;
     }
+    const bool aufgebaut = aufbauen(schritte);
     anzeigen(g, schritte);
     Systemordner(g.instanz.Ordner, g.dialogs, g.strTitel());
     werkzeugeSuchen(g);
     abschließen(g, schritte);
+    if (!aufgebaut) (void)aufbauen(schritte);
     return Ladeergebnis::Fertig;
+}
+
+void BeispieldatenUmschalten(GlobalState& g) {
+    g.OhneBeispielFrage = true;
+    g.BeispielAnzeigen = !g.BeispielAktiv;
+    if (g.BeispielAnzeigen)
+        basic::quietly([&] { store::shiftSampleDates(g.wsHaupt, g.strBeispielDB, g.clock.today()); });
+    g.Neuaufbau = true;
 }
 
 std::string Planüberschrift(const GlobalState& g) { return g.strTitel() + " Version 4.10"; }

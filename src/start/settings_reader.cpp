@@ -7,6 +7,7 @@
 #include "start/workstation_files.h"
 #include "store/first_run.h"
 #include "store/path_test.h"
+#include "store/sample_dates.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -127,8 +128,8 @@ void hilfeDarstellungFüllen(jet::Database& db) {
 
 // The first run
 
-Ladeergebnis beispielZeigen(GlobalState& g, const Leseschritte& schritte) {
-    if (schritte.BeispielVerschieben) quietly([&] { schritte.BeispielVerschieben(g.strBeispielDB); });
+Ladeergebnis beispielZeigen(GlobalState& g) {
+    quietly([&] { store::shiftSampleDates(g.wsHaupt, g.strBeispielDB, g.clock.today()); });
     g.BeispielAnzeigen = true;
     g.Neuaufbau = true;
     return Ladeergebnis::Neuladen;
@@ -146,10 +147,10 @@ MsgResult beispielFrage(GlobalState& g) {
                             MsgStyle::fromFlags(35), g.strTitel());
 }
 
-Ladeergebnis ersterStart(GlobalState& g, const Leseschritte& schritte) {
+Ladeergebnis ersterStart(GlobalState& g) {
     switch (beispielFrage(g)) {
     case MsgResult::Yes:
-        return beispielZeigen(g, schritte);
+        return beispielZeigen(g);
     case MsgResult::No:
         return vorgabenSchreiben(g);
     default:
@@ -157,12 +158,12 @@ Ladeergebnis ersterStart(GlobalState& g, const Leseschritte& schritte) {
     }
 }
 
-Ladeergebnis räumeLesen(GlobalState& g, const Leseschritte& schritte) {
+Ladeergebnis räumeLesen(GlobalState& g) {
     switch (abschnittLesen(g, Abschnitt::Räume)) {
     case Fund::Da:
         return Ladeergebnis::Fertig;
     case Fund::Fehlt:
-        return ersterStart(g, schritte);
+        return ersterStart(g);
     case Fund::Unlesbar:
         jet::raise(jet::ErrorNumber::CannotOpen, g.strDBAktuell);
     }
@@ -195,10 +196,10 @@ void belegArtenLesen(Einstellungen& e, jet::Database& db) {
     }
 }
 
-void verhaltenLesen(GlobalState& g, const Leseschritte& schritte) {
+void verhaltenLesen(GlobalState& g, const std::function<void(GlobalState&)>& Zahlungsmigration) {
     quietly([&] { hilfeDarstellungFüllen(g.dbHaupt); });
     (void)abschnittLesen(g, Abschnitt::Verhalten);
-    if (schritte.Zahlungsmigration) quietly([&] { schritte.Zahlungsmigration(g); });
+    if (Zahlungsmigration) quietly([&] { Zahlungsmigration(g); });
     (void)abschnittLesen(g, Abschnitt::Währung);
 }
 
@@ -214,10 +215,10 @@ void darstellungLesen(GlobalState& g) {
     bereinigen(g.einstellungen);
 }
 
-Ladeergebnis lesen(GlobalState& g, const Leseschritte& schritte) {
+Ladeergebnis lesen(GlobalState& g, const std::function<void(GlobalState&)>& Zahlungsmigration) {
     hauptdatenbankÖffnen(g);
-    verhaltenLesen(g, schritte);
-    const Ladeergebnis räume = räumeLesen(g, schritte);
+    verhaltenLesen(g, Zahlungsmigration);
+    const Ladeergebnis räume = räumeLesen(g);
     if (räume == Ladeergebnis::Fertig) darstellungLesen(g);
     return räume;
 }
@@ -235,9 +236,9 @@ Einstellungen EinstellungenAnsehen(jet::Database& haupt, jet::Database& arbeitsp
     return e;
 }
 
-Ladeergebnis EinstellungenLesen(GlobalState& g, const Leseschritte& schritte) {
+Ladeergebnis EinstellungenLesen(GlobalState& g, const std::function<void(GlobalState&)>& Zahlungsmigration) {
     try {
-        return lesen(g, schritte);
+        return lesen(g, Zahlungsmigration);
     } catch (const jet::Error& error) {
         g.dialogs.MsgBox(error.text(), {.icon = services::MsgIcon::Critical}, g.strTitel());
         return Ladeergebnis::Ende;

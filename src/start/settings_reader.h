@@ -3,7 +3,6 @@
 #include "start/global_state.h"
 
 #include <functional>
-#include <string>
 
 namespace start {
 
@@ -13,19 +12,14 @@ enum class Ladeergebnis {
     Ende,     ///< the load stops and with it the program
 };
 
-/// What other floors do among the records; empty where there is nothing yet.
-struct Leseschritte {
-    std::function<void(GlobalState&)> Zahlungsmigration;
-    /// Moves the stays of the sample file (its path) so that they lie around today.
-    std::function<void(const std::string& beispieldatei)> BeispielVerschieben;
-};
-
 /// Opens dbHaupt and dbArbeitsplatz and reads every setting in its order. A record that cannot be read gives its
 /// default. A house without "Räumlichkeiten" is a first run: the user is asked whether to see the sample data, else the
 /// defaults are written. Without "ZeitDarstellung" or "Farben" the user is told and the settings form opens, where
 /// there is one. Ende when no database opens (the user is told the engine's text), when "Räumlichkeiten" cannot be read
 /// (an unread house must not be taken for a new one), and when the user cancels.
-[[nodiscard]] Ladeergebnis EinstellungenLesen(GlobalState& g, const Leseschritte& schritte = {});
+/// `Zahlungsmigration` runs at its place among the records; it may be empty.
+[[nodiscard]] Ladeergebnis EinstellungenLesen(GlobalState& g,
+                                              const std::function<void(GlobalState&)>& Zahlungsmigration = {});
 
 /// The settings as they stand, for programs that only look at a house: nothing is asked and nothing is written. Without
 /// the record of the rooms there are none.

@@ -74,15 +74,18 @@ void arbeitsplatzdateienAnlegen(const GlobalState& g) {
     anlegen(g, store::kHolidayFile, [](jet::Database& db) { db.AppendTableDefs(store::holidayFileTables()); });
 }
 
+store::LinkPlaces linkPlätze(const GlobalState& g) {
+    return {g.instanz.Datei(g.instanz.Namen().Lokal), clsPfade(g.settings).DBPfad(schlüssel(0).Zentral),
+            g.instanz.Nummer, g.AdrAusBel};
+}
+
 bool verknüpfen(const GlobalState& g, const std::string& zentral, const std::string& pfad) {
-    const std::string lokal = g.instanz.Datei(g.instanz.Namen().Lokal);
-    const clsPfade pfade(g.settings);
-    const store::LinkPlaces places{lokal, pfade.DBPfad(schlüssel(0).Zentral), g.instanz.Nummer, g.AdrAusBel};
+    const store::LinkPlaces places = linkPlätze(g);
     quietly([&] {
         fehlendeLinks(g, zentral, pfad);
         (void)store::relinkAll(g.wsHaupt, places, zentral, pfad);
     });
-    return store::linksWork(g.wsHaupt, lokal);
+    return store::linksWork(g.wsHaupt, places.LokalDB);
 }
 
 } // namespace start

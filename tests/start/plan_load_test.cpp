@@ -3,6 +3,7 @@
 #include "start/parameters.h"
 #include "start/start_main.h"
 #include "start/system_folders.h"
+#include "start/upgrades.h"
 #include "support/test_start.h"
 
 #include <gtest/gtest.h>
@@ -26,14 +27,14 @@ struct Recorder {
     [[nodiscard]] Ladeschritte all() {
         Ladeschritte s;
         s.HeuteZeigen = step("heute");
-        s.Lesen.Zahlungsmigration = [this](GlobalState&) { steps.emplace_back("zahlung"); };
-        s.PlanAufbauen = step("plan");
-        s.BeispielUpgrades = step("beispiel");
-        s.ParameterUpgrade = step("parameter");
+        s.Zahlungsmigration = [this](GlobalState&) { steps.emplace_back("zahlung"); };
+        s.PlanAufbauen = [this] {
+            steps.emplace_back("plan");
+            return true;
+        };
         s.FeiertagZeigen = step("feiertag");
         s.VorgabelandLesen = step("land");
         s.ZimmervorgabenLesen = step("vorgaben");
-        s.Upgrades = step("upgrades");
         s.AngebotePrüfen = step("angebote");
         return s;
     }
@@ -47,8 +48,8 @@ TEST(PlanLoad, StepsComeInTheirOrder) {
     Recorder r;
     s.dialogs.press(MsgResult::No);
     EXPECT_EQ(PlanLaden(s.g, r.all()), Ladeergebnis::Fertig);
-    EXPECT_EQ(r.steps, (std::vector<std::string>{"heute", "zahlung", "plan", "parameter", "feiertag", "land",
-                                                 "vorgaben", "upgrades", "angebote"}));
+    EXPECT_EQ(r.steps,
+              (std::vector<std::string>{"heute", "zahlung", "plan", "feiertag", "land", "vorgaben", "angebote"}));
     EXPECT_TRUE(s.g.FormularGeladen);
     EXPECT_EQ(Planüberschrift(s.g), "Herbergo Version 4.10");
     for (const auto* name : {"Rechnungen", "Anmeldungen", "Bestätigungen", "Angebote", "Sicherungen"})
@@ -56,11 +57,53 @@ TEST(PlanLoad, StepsComeInTheirOrder) {
     EXPECT_TRUE(StatistikMöglich(s.g));
     EXPECT_FALSE(s.g.werkzeuge.holdaten);
 
-    s.g.BeispielAnzeigen = true;
-    r.steps.clear();
+    BeispieldatenUmschalten(s.g);
+    EXPECT_TRUE(s.g.Neuaufbau);
     EXPECT_EQ(PlanLaden(s.g, r.all()), Ladeergebnis::Fertig);
-    EXPECT_EQ(r.steps.at(3), "beispiel");
+    EXPECT_TRUE(s.g.BeispielAktiv);
     EXPECT_FALSE(StatistikMöglich(s.g)); // the statistics tool would count invented guests
+}
+
+TEST(PlanLoad, OlderHouseGetsItsFieldsAndThenItsPlan) {
+    TestStart s;
+    s.house();
+    // A house from before rooms had defaults and payments had kinds.
+    jet::Database source = s.open(s.file("Herbergo.mdb"));
+    source.DeleteTableDef("tbZahlart");
+    source.DeleteTableDef("tbZimmernummern");
+    jet::TableDef rooms;
+    rooms.Name = "tbZimmernummern";
+    rooms.Fields = {jet::CreateField("Zimmernummer", jet::FieldType::Integer),
+                    jet::CreateField("NeueNummer", jet::FieldType::Text, 50)};
+    source.AppendTableDef(rooms);
+    SatzSchreiben(source, "Räumlichkeiten", {{"F1", "0"}});
+    SatzSchreiben(source, "Farben", {{"F1", "255"}});
+    source.Close();
+    ASSERT_EQ(Main(s.g), Weg::Plan);
+    int read = 0;
+    Ladeschritte schritte;
+    schritte.PlanAufbauen = [&] {
+        ++read;
+        return s.g.dbHaupt.OpenRecordset("SELECT PreisDefault, katBlockBuchung FROM tbZimmernummern").Eof();
+    };
+    EXPECT_EQ(PlanLaden(s.g, schritte), Ladeergebnis::Fertig);
+    EXPECT_EQ(read, 2);
+    EXPECT_TRUE(s.open(s.file("Lokal.mdb")).HasTable("tbZahlart"));
+    EXPECT_EQ(PlanLaden(s.g, schritte), Ladeergebnis::Fertig);
+    EXPECT_EQ(read, 3);
+}
+
+TEST(PlanLoad, UpgradeThatFailsIsOffered) {
+    TestStart s;
+    s.house();
+    ASSERT_EQ(Main(s.g), Weg::Plan);
+    s.open(s.file("Herbergo.mdb")).DeleteTableDef("tbZimmernummern");
+    for (const MsgResult answer : {MsgResult::Retry, MsgResult::Cancel})
+        s.dialogs.press(answer);
+    datenAktualisieren(s.g);
+    EXPECT_EQ(s.dialogs.last().text, "Das Anfügen von Tabellenfeldern ist fehlgeschlagen.");
+    EXPECT_EQ(s.dialogs.last().title, "neue Tabellenfelder anlegen");
+    EXPECT_EQ(s.dialogs.last().style.buttons, services::MsgButtons::RetryCancel);
 }
 
 TEST(PlanLoad, CancelledFirstRunBuildsNoPlan) {

@@ -199,12 +199,16 @@ TEST(FirstRun, YesStartsOverOnTheSampleData) {
     s.house();
     EXPECT_EQ(Main(s.g), Weg::Plan);
     s.dialogs.press(MsgResult::Yes);
-    std::string shifted;
-    const Leseschritte schritte{{}, [&](const std::string& datei) { shifted = datei; }};
-    EXPECT_EQ(EinstellungenLesen(s.g, schritte), Ladeergebnis::Neuladen);
-    EXPECT_EQ(shifted, s.file("Beispiel.mdb"));
+    const auto ersteAnkunft = [&] {
+        jet::Database beispiel = s.open(s.file("Beispiel.mdb"));
+        return beispiel.OpenRecordset("SELECT TOP 1 Von FROM tblBelegung ORDER BY ID").Fields(0).Value().dateOr();
+    };
+    s.clock.set(s.clock.now() + 400); // the sample has become stale
+    EXPECT_NE(ersteAnkunft(), s.clock.today());
+    EXPECT_EQ(EinstellungenLesen(s.g), Ladeergebnis::Neuladen);
+    EXPECT_EQ(ersteAnkunft(), s.clock.today());
     EXPECT_TRUE(s.g.Neuaufbau);
-    EXPECT_EQ(EinstellungenLesen(s.g, schritte), Ladeergebnis::Fertig);
+    EXPECT_EQ(EinstellungenLesen(s.g), Ladeergebnis::Fertig);
     EXPECT_TRUE(s.g.BeispielAktiv);
     EXPECT_EQ(s.g.strDBAktuell, s.file("Beispiel.mdb"));
     EXPECT_GT(s.g.dbHaupt.OpenRecordset("tblBelegung").RecordCount(), 30);
