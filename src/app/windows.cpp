@@ -30,6 +30,8 @@ start::Adresswahl QtWindows::Adresshilfe(const start::AdresshilfeAnfrage& anfrag
     return form.Ergebnis();
 }
 
-void QtWindows::Einstellungen(const start::EinstellungenAnfrage& /*anfrage*/) { assert(!"not there"); }
+void QtWindows::Einstellungen(const start::EinstellungenAnfrage& /*anfrage*/) {
+    assert(false && "has() says that it is not there");
+}
 
 } // namespace app
