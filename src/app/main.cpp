@@ -1,4 +1,3 @@
-#include "app/surroundings.h"
 #include "app/windows.h"
 #include "masterdata/rooms.h"
 #include "plan/forms/main_window.h"
@@ -24,7 +23,7 @@ using start::Ladeergebnis;
 struct Planfenster {
     explicit Planfenster(start::GlobalState& g)
         : source(g.dbHaupt), grid(settings(g), masterdata::ZimmerEinlesen(g.dbHaupt), source, g.clock),
-          form(grid, g.clock, app::surroundings(g, [this] { window.close(); })), window(loaded(form)) {
+          form(grid, g.clock), window(loaded(form)) {
         window.setWindowTitle(QString::fromStdString(start::Planüberschrift(g)));
     }
 

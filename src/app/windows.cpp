@@ -31,7 +31,7 @@ start::Adresswahl QtWindows::Adresshilfe(const start::AdresshilfeAnfrage& anfrag
 }
 
 void QtWindows::Einstellungen(const start::EinstellungenAnfrage& /*anfrage*/) {
-    assert(false && "has() says that it is not there");
+    assert(false && "not there");
 }
 
 } // namespace app
