@@ -30,8 +30,6 @@ start::Adresswahl QtWindows::Adresshilfe(const start::AdresshilfeAnfrage& anfrag
     return form.Ergebnis();
 }
 
-void QtWindows::Einstellungen(const start::EinstellungenAnfrage& /*anfrage*/) {
-    assert(false && "not there");
-}
+void QtWindows::Einstellungen(const start::EinstellungenAnfrage& /*anfrage*/) { assert(false && "not there"); }
 
 } // namespace app
