@@ -23,9 +23,7 @@ using start::Ladeergebnis;
 struct Planfenster {
     explicit Planfenster(start::GlobalState& g)
         : source(g.dbHaupt), grid(settings(g), masterdata::ZimmerEinlesen(g.dbHaupt), source, g.clock),
-          form(grid, g.clock), window(loaded(form)) {
-        window.setWindowTitle(QString::fromStdString(start::Planüberschrift(g)));
-    }
+          form(grid, g.clock, plan::UmgebungAus(g, [this] { window.close(); })), window(loaded(form)) {}
 
     /// The window shows what is loaded from its first painting on.
     static plan::frmMain& loaded(plan::frmMain& form) {
@@ -81,7 +79,7 @@ Next runPlan(start::GlobalState& g) {
         g.dialogs.MsgBox(building.failure, {.icon = services::MsgIcon::Critical}, g.strTitel());
         return Next::End;
     }
-    building.window->window.show();
+    building.window->window.showMaximized();
     QApplication::exec();
     g.FormularGeladen = false;
     return g.Neuaufbau ? Next::LoadAgain : Next::End;

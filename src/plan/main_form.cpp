@@ -5,6 +5,7 @@
 #include "platform/basic/format.h"
 #include "platform/basic/text.h"
 #include "platform/jet/error.h"
+#include "start/plan_load.h"
 
 #include <algorithm>
 #include <utility>
@@ -27,7 +28,7 @@ std::string Kürzeltext(const tplZelle& zelle) {
 } // namespace
 
 frmMain::frmMain(Planraster& raster, const services::Clock& clock, Umgebung umgebung)
-    : lblBeispieldaten("Sie sehen zur Zeit die Beispieldaten"), cmdBezahlt(Unbekannt), cmdNeu("&Neu"), raster_(&raster),
+    : lblBeispieldaten(start::kBeispielhinweis), cmdBezahlt(Unbekannt), cmdNeu("&Neu"), raster_(&raster),
       clock_(&clock), umgebung_(std::move(umgebung)) {
     txtFeiertag.Visible = false;
     lblKürzel.Visible = false;

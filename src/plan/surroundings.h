@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/services/dialogs.h"
-#include "start/windows.h"
+#include "start/global_state.h"
 
 #include <functional>
 #include <string>
@@ -32,5 +31,9 @@ struct Umgebung {
     [[nodiscard]] bool has(start::Fenster fenster) const { return windows != nullptr && windows->has(fenster); }
     [[nodiscard]] bool hat(std::string_view datei) const { return vorhanden && vorhanden(datei); }
 };
+
+/// The surroundings in a run of the program. `schließen` closes the plan window, which is built anew when the state
+/// says so. The state must outlive them.
+[[nodiscard]] Umgebung UmgebungAus(start::GlobalState& g, const std::function<void()>& close);
 
 } // namespace plan
