@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -83,6 +84,7 @@ MainWindow::MainWindow(frmMain& form)
     all->addWidget(status_);
     connectPlan();
     refresh();
+    resize(sizeHint().boundedTo(screen()->availableSize())); // of itself a window opens at two thirds of the screen
     plan_->setFocus();
 }
 
