@@ -14,14 +14,6 @@
 
 namespace start {
 
-/// Sibling programs that were found in the program folder at the last load; where one is missing, its menu entry is
-/// disabled.
-struct Werkzeuge {
-    bool holdaten = false;
-    bool gebdaten = false;
-    bool auswerter = false;
-};
-
 /// What a run knows and reaches. `main` owns the one of the program and hands it down; a test makes its own.
 struct GlobalState {
     // services
@@ -44,7 +36,6 @@ struct GlobalState {
     std::string strBeispielDB{};           ///< path of the sample file
 
     Einstellungen einstellungen{};
-    Werkzeuge werkzeuge{};
 
     // how the run stands
     bool BeispielAnzeigen = false;  ///< the path form's box: the next load shows the sample data

@@ -6,22 +6,12 @@
 #include "start/upgrades.h"
 #include "store/sample_dates.h"
 
-#include <filesystem>
-
 namespace start {
 
 namespace {
 
 void ausführen(const std::function<void()>& schritt) {
     if (schritt) basic::quietly([&] { schritt(); });
-}
-
-void werkzeugeSuchen(GlobalState& g) {
-    const auto vorhanden = [&](std::string_view name) {
-        std::error_code unreadable;
-        return std::filesystem::exists(g.instanz.Datei(name), unreadable);
-    };
-    g.werkzeuge = {vorhanden("holdaten.exe"), vorhanden("gebdaten.exe"), vorhanden("auswerter.exe")};
 }
 
 bool aufbauen(const Ladeschritte& schritte) {
@@ -59,7 +49,6 @@ Ladeergebnis PlanLaden(GlobalState& g, const Ladeschritte& schritte) {
     const bool aufgebaut = aufbauen(schritte);
     anzeigen(g, schritte);
     Systemordner(g.instanz.Ordner, g.dialogs, g.strTitel());
-    werkzeugeSuchen(g);
     abschließen(g, schritte);
     if (!aufgebaut) (void)aufbauen(schritte);
     return Ladeergebnis::Fertig;
@@ -72,9 +61,5 @@ void BeispieldatenUmschalten(GlobalState& g) {
         basic::quietly([&] { store::shiftSampleDates(g.wsHaupt, g.strBeispielDB, g.clock.today()); });
     g.Neuaufbau = true;
 }
-
-std::string Planüberschrift(const GlobalState& g) { return g.strTitel() + " Version 4.10"; }
-
-bool StatistikMöglich(const GlobalState& g) { return g.werkzeuge.auswerter && !g.BeispielAktiv; }
 
 } // namespace start

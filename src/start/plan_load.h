@@ -27,11 +27,6 @@ struct Ladeschritte {
 /// again. The caller closes the plan window, which is then loaded anew.
 void BeispieldatenUmschalten(GlobalState& g);
 
-/// Title of the plan window.
-[[nodiscard]] std::string Planüberschrift(const GlobalState& g);
-/// Is the menu entry "&Statistik" enabled?
-[[nodiscard]] bool StatistikMöglich(const GlobalState& g);
-
 inline constexpr auto kBeispielhinweis = "Sie sehen zur Zeit die Beispieldaten";
 
 } // namespace start

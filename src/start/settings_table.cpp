@@ -3,6 +3,7 @@
 #include "platform/basic/convert.h"
 #include "platform/basic/numbers.h"
 #include "platform/basic/text.h"
+#include "store/first_run.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -111,31 +112,9 @@ std::vector<Feld> wäsche() {
     return result;
 }
 
-const Texte& listenköpfe() {
-    static const Texte köpfe = {"&Checked in",
-                                "Vorname",
-                                "Nachname",
-                                "Name 2",
-                                "Straße",
-                                "Ort",
-                                "Land",
-                                "E-Mail",
-                                "Telefon",
-                                "FAX",
-                                "Personen",
-                                "Von",
-                                "Bis",
-                                "Zimmer",
-                                "Zusatzspalte 1",
-                                "Zusatzspalte 2",
-                                "Bemerkungen",
-                                "Abkürzung",
-                                "Einzelpreis",
-                                "Gesamtpreis",
-                                "Anzahl der Tage",
-                                "Vorläufige Reservierung",
-                                "ID"};
-    return köpfe;
+Texte listenköpfe() {
+    const auto captions = store::defaultColumnCaptions();
+    return {captions.begin(), captions.end()};
 }
 
 using Tabelle = std::vector<Satz>;

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <initializer_list>
+#include <span>
 #include <string>
 
 namespace store {
@@ -61,15 +62,41 @@ constexpr std::array<DefaultText, 19> kTexts = {{
 
 constexpr std::array<std::string_view, 9> kTypes = {"Frei", "Meier", "Schulze", "Tresen", "Angebot", "", "", "", ""};
 
-using Texts = std::initializer_list<std::string_view>;
+constexpr std::array<std::string_view, 23> kColumnCaptions = {"&Checked in",
+                                                              "Vorname",
+                                                              "Nachname",
+                                                              "Name 2",
+                                                              "Straße",
+                                                              "Ort",
+                                                              "Land",
+                                                              "E-Mail",
+                                                              "Telefon",
+                                                              "FAX",
+                                                              "Personen",
+                                                              "Von",
+                                                              "Bis",
+                                                              "Zimmer",
+                                                              "Zusatzspalte 1",
+                                                              "Zusatzspalte 2",
+                                                              "Bemerkungen",
+                                                              "Abkürzung",
+                                                              "Einzelpreis",
+                                                              "Gesamtpreis",
+                                                              "Anzahl der Tage",
+                                                              "Vorläufige Reservierung",
+                                                              "ID"};
 
-void addRecord(jet::Recordset& rows, std::string_view record, Texts values) {
+void addRecord(jet::Recordset& rows, std::string_view record, std::span<const std::string_view> values) {
     rows.AddNew();
     rows.Fields("Satz") = record;
     int field = 0;
     for (const std::string_view value : values)
         rows.Fields("F" + std::to_string(++field)) = value;
     rows.Update();
+}
+
+void addRecord(jet::Recordset& rows, std::string_view record, std::initializer_list<std::string_view> values) {
+    addRecord(rows, record, std::span(values.begin(), values.size()));
 }
 
 bool isRoomsRecord(jet::Recordset& rows) {
@@ -102,30 +129,7 @@ void writePlanRecords(jet::Database& database, jet::Recordset& rows, const std::
     addRecord(rows, "Beschriftungen", {"Reserviert von:", "Zimmer"});
     addRecord(rows, "Farben", {"9399613", "16742405", "16762112", "16773888", "16056285"});
     writeRooms(database, rooms);
-    addRecord(rows, "SpaltenBeschriftung",
-              {"&Checked in",
-               "Vorname",
-               "Nachname",
-               "Name 2",
-               "Straße",
-               "Ort",
-               "Land",
-               "E-Mail",
-               "Telefon",
-               "FAX",
-               "Personen",
-               "Von",
-               "Bis",
-               "Zimmer",
-               "Zusatzspalte 1",
-               "Zusatzspalte 2",
-               "Bemerkungen",
-               "Abkürzung",
-               "Einzelpreis",
-               "Gesamtpreis",
-               "Anzahl der Tage",
-               "Vorläufige Reservierung",
-               "ID"});
+    addRecord(rows, "SpaltenBeschriftung", defaultColumnCaptions());
     addRecord(rows, "Spaltenbreiten",
               {"900",  "1200", "1500", "1200", "1500", "1300", "1100", "1500", "1300", "1300", "800", "1000",
                "1000", "900",  "1000", "1000", "2000", "1500", "1000", "1100", "900",  "900",  "600"});
@@ -145,6 +149,8 @@ void emptyTable(jet::Database& database, std::string_view table) {
 }
 
 } // namespace
+
+std::span<const std::string_view> defaultColumnCaptions() { return kColumnCaptions; }
 
 void writeDefaultRooms(jet::Database& database) {
     jet::Recordset rows = database.OpenRecordset("tbZimmernummern");
