@@ -26,7 +26,8 @@ void show(QAction& action, const services::MenuEntry& entry) {
 
 } // namespace
 
-MenuView::MenuView(const services::Menu& menu, std::function<void(const std::string&)> chosen) : bar_(new QMenuBar) {
+MenuView::MenuView(const services::Menu& menu, const std::function<void(const std::string&)>& chosen)
+    : bar_(new QMenuBar) {
     bar_->setNativeMenuBar(false);
     for (const auto& head : menu.Entries) {
         auto* list = bar_->addMenu(caption(head));

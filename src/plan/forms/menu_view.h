@@ -16,7 +16,7 @@ namespace plan {
 class MenuView {
 public:
     /// `chosen` is told the name of the entry that the user has chosen.
-    MenuView(const services::Menu& menu, std::function<void(const std::string& name)> chosen);
+    MenuView(const services::Menu& menu, const std::function<void(const std::string& name)>& chosen);
 
     /// Takes over the states of a menu with the same entries.
     void refresh(const services::Menu& menu);

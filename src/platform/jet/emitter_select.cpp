@@ -135,9 +135,9 @@ std::string Emitter::core(const ast::Select& query, std::size_t index, Order ord
         sql += ", " + key.front() + " AS s";
     }
     if (core.top)
-        sql = topOf(query, core, sql,
-                    plan && plan->sources.size() > 0 && plan->sources.front().rowIdColumn >= 0 ? plan->sources.size()
-                                                                                               : 0);
+        sql =
+            topOf(query, core, sql,
+                  plan && !plan->sources.empty() && plan->sources.front().rowIdColumn >= 0 ? plan->sources.size() : 0);
     else
         sql += tail(core);
     if (!core.top && !isUnion) sql += orderBy(query, sortedByReader ? std::vector<std::string>{} : key);
@@ -164,7 +164,7 @@ std::string Emitter::columnList(const ast::Select& query, std::size_t index) {
 
 /// A field that a star gives, as text where another select of the union makes it one.
 std::string Emitter::starField(const BoundCore& bound, const BoundItem& item, ExprType type) const {
-    const std::string sql = field(bound.sources[static_cast<std::size_t>(item.source)], item.column);
+    std::string sql = field(bound.sources[static_cast<std::size_t>(item.source)], item.column);
     if (type != ExprType::Text || item.output.type == ExprType::Text) return sql;
     return "j_text('" + std::string(1, typeLetter(item.output.type)) + "', " + sql + ")";
 }

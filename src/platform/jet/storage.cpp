@@ -28,7 +28,8 @@ ErrorNumber inputOutputNumber(int extendedCode) {
 /// The storage's own bounds on a statement: "too many SQL variables", "Expression tree is too large", ...
 bool tellsOfSize(std::string_view message) {
     constexpr std::array<std::string_view, 4> marks{"too many", "too large", "parser stack overflow", "at most"};
-    return std::ranges::any_of(marks, [&](std::string_view mark) { return message.find(mark) != message.npos; });
+    return std::ranges::any_of(marks,
+                               [&](std::string_view mark) { return message.find(mark) != std::string_view::npos; });
 }
 
 std::optional<ErrorNumber> fileErrorNumber(int extendedCode) {

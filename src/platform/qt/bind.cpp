@@ -112,7 +112,7 @@ void Binding::run(const Procedure& procedure) {
 }
 
 void Binding::bind(QLabel& widget, services::Label& control) {
-    shows_.push_back([&widget, &control] {
+    shows_.emplace_back([&widget, &control] {
         showCaption(widget, control.Caption);
         showColours(widget, control.BackColor, control.ForeColor);
         showControl(widget, control);
@@ -120,7 +120,7 @@ void Binding::bind(QLabel& widget, services::Label& control) {
 }
 
 void Binding::bind(QPushButton& widget, services::Button& control, Procedure click) {
-    shows_.push_back([&widget, &control] {
+    shows_.emplace_back([&widget, &control] {
         showCaption(widget, control.Caption);
         showColours(widget, control.BackColor);
         showControl(widget, control);
@@ -129,8 +129,8 @@ void Binding::bind(QPushButton& widget, services::Button& control, Procedure cli
 }
 
 template <typename Widget>
-void Binding::bindText(Widget& widget, services::TextBox& control, TextEvents events) {
-    shows_.push_back([&widget, &control] { showText(widget, control); });
+void Binding::bindText(Widget& widget, services::TextBox& control, TextEvents&& events) {
+    shows_.emplace_back([&widget, &control] { showText(widget, control); });
     connect(&widget, &Widget::textChanged, this, [this, &widget, &control, change = events.change] {
         control.Text = textOf(widget).toStdString();
         if (change) run(change);
@@ -147,7 +147,7 @@ void Binding::bind(QPlainTextEdit& widget, services::TextBox& control, TextEvent
 }
 
 void Binding::bind(QCheckBox& widget, services::CheckBox& control, Procedure click) {
-    shows_.push_back([&widget, &control] {
+    shows_.emplace_back([&widget, &control] {
         const QSignalBlocker silent(widget);
         showCaption(widget, control.Caption);
         if (widget.isChecked() != control.Value) widget.setChecked(control.Value);
@@ -161,7 +161,7 @@ void Binding::bind(QCheckBox& widget, services::CheckBox& control, Procedure cli
 
 void Binding::bind(QComboBox& widget, services::ComboBox& control, Procedure change) {
     widget.setEditable(control.Editable);
-    shows_.push_back([&widget, &control, version = 0U]() mutable { showCombo(widget, control, version); });
+    shows_.emplace_back([&widget, &control, version = 0U]() mutable { showCombo(widget, control, version); });
     connect(&widget, &QComboBox::currentTextChanged, this,
             [this, &widget, &control, change = std::move(change)](const QString& shown) {
                 control.Text = shown.toStdString();
@@ -171,7 +171,7 @@ void Binding::bind(QComboBox& widget, services::ComboBox& control, Procedure cha
 }
 
 void Binding::bind(QButtonGroup& widget, services::OptionGroup& control, std::function<void(int)> click) {
-    shows_.push_back([&widget, &control] { showOptions(widget, control); });
+    shows_.emplace_back([&widget, &control] { showOptions(widget, control); });
     connect(&widget, &QButtonGroup::idClicked, this,
             [this, click = std::move(click)](int id) { run([&click, id] { click(id); }); });
 }

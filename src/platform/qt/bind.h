@@ -66,7 +66,7 @@ private:
     };
 
     template <typename Widget>
-    void bindText(Widget& widget, services::TextBox& control, TextEvents events);
+    void bindText(Widget& widget, services::TextBox& control, TextEvents&& events);
     void watch(QWidget& widget, TextEvents events);
     void leave(const Watched& watched);
 
