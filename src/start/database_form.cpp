@@ -3,6 +3,7 @@
 #include "platform/basic/quietly.h"
 #include "platform/basic/text.h"
 #include "start/parameters.h"
+#include "start/settings_reader.h"
 #include "start/start_main.h"
 #include "start/workstation_files.h"
 #include "store/path_test.h"
@@ -78,6 +79,7 @@ void frmDatenbank::cmdSpeichern_Click() {
         return;
     }
     speichern();
+    if (chBeispiel.Value && !g_.BeispielAnzeigen) BeispielWählen(g_);
     g_.BeispielAnzeigen = chBeispiel.Value;
     ergebnis_ = anfrage_.beimStart ? PfadeErgebnis::Weiter : PfadeErgebnis::Neuaufbau;
 }

@@ -4,7 +4,6 @@
 #include "start/paths.h"
 #include "start/system_folders.h"
 #include "start/upgrades.h"
-#include "store/sample_dates.h"
 
 namespace start {
 
@@ -55,10 +54,10 @@ Ladeergebnis PlanLaden(GlobalState& g, const Ladeschritte& schritte) {
 }
 
 void BeispieldatenUmschalten(GlobalState& g) {
-    g.OhneBeispielFrage = true;
-    g.BeispielAnzeigen = !g.BeispielAktiv;
-    if (g.BeispielAnzeigen)
-        basic::quietly([&] { store::shiftSampleDates(g.wsHaupt, g.strBeispielDB, g.clock.today()); });
+    // Only who leaves the sample has seen it; on the way in, a sample file without settings must not be filled unasked.
+    g.OhneBeispielFrage = g.BeispielAktiv;
+    g.BeispielAnzeigen = false;
+    if (!g.BeispielAktiv) BeispielWählen(g);
     g.Neuaufbau = true;
 }
 

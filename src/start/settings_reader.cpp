@@ -129,8 +129,7 @@ void hilfeDarstellungFüllen(jet::Database& db) {
 // The first run
 
 Ladeergebnis beispielZeigen(GlobalState& g) {
-    quietly([&] { store::shiftSampleDates(g.wsHaupt, g.strBeispielDB, g.clock.today()); });
-    g.BeispielAnzeigen = true;
+    BeispielWählen(g);
     g.Neuaufbau = true;
     return Ladeergebnis::Neuladen;
 }
@@ -243,6 +242,11 @@ Ladeergebnis EinstellungenLesen(GlobalState& g, const std::function<void(GlobalS
         g.dialogs.MsgBox(error.text(), {.icon = services::MsgIcon::Critical}, g.strTitel());
         return Ladeergebnis::Ende;
     }
+}
+
+void BeispielWählen(GlobalState& g) {
+    quietly([&] { store::shiftSampleDates(g.wsHaupt, g.strBeispielDB, g.clock.today()); });
+    g.BeispielAnzeigen = true;
 }
 
 } // namespace start

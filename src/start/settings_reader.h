@@ -25,4 +25,7 @@ enum class Ladeergebnis {
 /// the record of the rooms there are none.
 [[nodiscard]] Einstellungen EinstellungenAnsehen(jet::Database& haupt, jet::Database& arbeitsplatz);
 
+/// The next load shows the sample data, moved to today.
+void BeispielWählen(GlobalState& g);
+
 } // namespace start

@@ -55,6 +55,7 @@ TEST(PlanLoad, StepsComeInTheirOrder) {
 
     BeispieldatenUmschalten(s.g);
     EXPECT_TRUE(s.g.Neuaufbau);
+    EXPECT_FALSE(s.g.OhneBeispielFrage); // only leaving the sample answers the question beforehand
     EXPECT_EQ(PlanLaden(s.g, r.all()), Ladeergebnis::Fertig);
     EXPECT_TRUE(s.g.BeispielAktiv);
 }
