@@ -1,6 +1,6 @@
 #include "benchmarks.h"
 
-#include "platform/jet/sql_values.h"
+#include "plan/plan_source.h"
 #include "support/compare.h"
 
 #include <cstdio>
@@ -32,22 +32,7 @@ plain::Rows fetchWindow(sqlite3_stmt* statement, basic::Date start, const std::v
 
 } // namespace
 
-std::string planStatement(basic::Date start) {
-    return "SELECT tbBelegArten.BelegungsID, tbBelegArten.BelegungsArt, tblBelegung.ID, tblBelegung.Zimmernummer, "
-           "tblBelegung.Von, tblBelegung.Bis, tblBelegung.GastID, tblBelegung.Info, tblBelegung.Kürzel, "
-           "tblBelegung.Preis, tblBelegung.PreisProNacht, tblBelegung.AnzahlÜbernachtungen, tblBelegung.AnzahlGäste, "
-           "tblBelegung.Anz_Kinder, tblBelegung.Gelöscht, tblBelegung.Checked, tblBelegung.WerErstellt, "
-           "tblBelegung.WannErstellt, tblBelegung.WerGeändert, tblBelegung.WannGeändert, tblBelegung.Abgerechnet, "
-           "tblBelegung.IDAdressRechnung, tblBelegung.Wäsche1, tblBelegung.Wäsche2, tblBelegung.Frühstück, "
-           "tblBelegung.Zahlart, tblBelegung.Mittag, tblBelegung.Abendessen, tblBelegung.Alter_Kinder, "
-           "tblBelegung.BelegNummer, tblBelegung.BelegNummer_eigen, "
-           "tbZimmernummern.NeueNummer,Address.Firstname,Address.Lastname, tblBelegung.AnzahlGäste, "
-           "tblBelegung.Anz_Kinder, [tbZimmernummern].[AnzahlGästeDefault]-[tblBelegung].[AnzahlGäste] AS Diff FROM "
-           "((tblBelegung INNER JOIN tbZimmernummern ON tblBelegung.Zimmernummer = tbZimmernummern.Zimmernummer) INNER "
-           "JOIN Address ON tblBelegung.GastID = Address.ID) INNER JOIN tbBelegArten ON tblBelegung.Belegungsart = "
-           "tbBelegArten.BelegungsID WHERE (((tblBelegung.Von)<=" +
-           jet::sqlDate(start + windowDays) + ") AND ((tblBelegung.Bis)>=" + jet::sqlDate(start - marginDays) + "));";
-}
+std::string planStatement(basic::Date start) { return plan::Planabfrage(start - marginDays, start + windowDays); }
 
 void registerPlanQuery(BenchHouse& house, RatioTable& table, const std::string& what) {
     const basic::Date start = today() - 2;

@@ -1,3 +1,4 @@
+#include "plan/plan_source.h"
 #include "platform/jet/explain.h"
 #include "support/test_house.h"
 
@@ -20,12 +21,7 @@ protected:
 };
 
 TEST_F(QueryPlan, TheWindowIsFoundByTheDayOfDeparture) {
-    const auto plan = planOf("SELECT tblBelegung.ID, tbZimmernummern.NeueNummer, Address.Lastname FROM ((tblBelegung "
-                             "INNER JOIN tbZimmernummern ON "
-                             "tblBelegung.Zimmernummer = tbZimmernummern.Zimmernummer) INNER JOIN Address ON "
-                             "tblBelegung.GastID = Address.ID) "
-                             "INNER JOIN tbBelegArten ON tblBelegung.Belegungsart = tbBelegArten.BelegungsID WHERE "
-                             "(((tblBelegung.Von)<=#07-20-2026#) AND ((tblBelegung.Bis)>=#06-08-2026#));");
+    const auto plan = planOf(plan::Planabfrage(support::day(8, 6), support::day(20, 7)));
     EXPECT_THAT(plan, Each(Not(HasSubstr("SCAN"))));
     EXPECT_THAT(plan, Contains(AllOf(HasSubstr("SEARCH t1"), HasSubstr("Bis>"))));
     EXPECT_THAT(plan, Each(Not(HasSubstr("TEMP B-TREE")))) << "rows are sorted by who reads them";
