@@ -32,4 +32,20 @@ start::Adresswahl QtWindows::Adresshilfe(const start::AdresshilfeAnfrage& anfrag
 
 void QtWindows::Einstellungen(const start::EinstellungenAnfrage& /*anfrage*/) { assert(false && "not there"); }
 
+int QtWindows::Reservierung(const start::ReservierungAnfrage& /*anfrage*/) {
+    assert(false && "not there");
+    return 0;
+}
+
+start::KollisionErgebnis QtWindows::Kollision(const start::KollisionAnfrage& /*anfrage*/) {
+    assert(false && "not there");
+    return {};
+}
+
+void QtWindows::Saisonzeiten() { assert(false && "not there"); }
+
+void QtWindows::Saisonpreise(int /*zimmernummer*/) { assert(false && "not there"); }
+
+void QtWindows::Reservierungsnummern() { assert(false && "not there"); }
+
 } // namespace app

@@ -18,6 +18,11 @@ public:
     [[nodiscard]] start::PfadeErgebnis Datenbankpfade(const start::PfadeAnfrage& anfrage) override;
     [[nodiscard]] start::Adresswahl Adresshilfe(const start::AdresshilfeAnfrage& anfrage) override;
     void Einstellungen(const start::EinstellungenAnfrage& anfrage) override;
+    int Reservierung(const start::ReservierungAnfrage& anfrage) override;
+    [[nodiscard]] start::KollisionErgebnis Kollision(const start::KollisionAnfrage& anfrage) override;
+    void Saisonzeiten() override;
+    void Saisonpreise(int zimmernummer) override;
+    void Reservierungsnummern() override;
 
 private:
     start::GlobalState* state_ = nullptr;

@@ -27,4 +27,25 @@ void ScriptedWindows::Einstellungen(const start::EinstellungenAnfrage& anfrage) 
     if (opens(Fenster::Einstellungen, beiEinstellungen != nullptr)) beiEinstellungen(anfrage);
 }
 
+int ScriptedWindows::Reservierung(const start::ReservierungAnfrage& anfrage) {
+    return opens(Fenster::Reservierung, beiReservierung != nullptr) ? beiReservierung(anfrage) : 0;
+}
+
+start::KollisionErgebnis ScriptedWindows::Kollision(const start::KollisionAnfrage& anfrage) {
+    if (!opens(Fenster::Kollision, beiKollision != nullptr)) return {};
+    return beiKollision(anfrage);
+}
+
+void ScriptedWindows::Saisonzeiten() {
+    if (opens(Fenster::Saisonzeiten, beiSaisonzeiten != nullptr)) beiSaisonzeiten();
+}
+
+void ScriptedWindows::Saisonpreise(int zimmernummer) {
+    if (opens(Fenster::Saisonpreise, beiSaisonpreise != nullptr)) beiSaisonpreise(zimmernummer);
+}
+
+void ScriptedWindows::Reservierungsnummern() {
+    if (opens(Fenster::Reservierungsnummern, beiReservierungsnummern != nullptr)) beiReservierungsnummern();
+}
+
 } // namespace support

@@ -1,6 +1,7 @@
 #include "platform/services/controls.h"
 
 #include "platform/basic/text.h"
+#include "platform/basic/utf8.h"
 
 #include <algorithm>
 
@@ -24,6 +25,18 @@ int indexIn(const Range& range, typename Range::const_iterator place) {
 }
 
 } // namespace
+
+std::string KeyFilter::filtered(std::string_view text) const {
+    const std::u32string only = basic::toCharacters(Only);
+    const std::u32string never = basic::toCharacters(Never);
+    std::string taken;
+    for (const char32_t sign : basic::toCharacters(text)) {
+        const bool wanted = only.empty() || only.find(sign) != std::u32string::npos;
+        const bool leadingBlank = NoLeadingBlank && taken.empty() && sign == U' ';
+        if (wanted && !leadingBlank && never.find(sign) == std::u32string::npos) basic::appendCharacter(taken, sign);
+    }
+    return taken;
+}
 
 void ListItems::Clear() {
     texts_.clear();

@@ -43,11 +43,51 @@ struct Button : Control {
     explicit Button(std::string_view caption) : Caption(caption) {}
 };
 
+/// Which characters a box takes, typed or pasted.
+struct KeyFilter {
+    std::string_view Only = {};  ///< these alone; empty: all
+    std::string_view Never = {}; ///< none of these
+    bool NoLeadingBlank = false;
+
+    /// The text without what the box does not take.
+    [[nodiscard]] std::string filtered(std::string_view text) const;
+};
+
+/// The keys that a form listens to besides typing.
+enum class Key { F2, F3, Return, Plus, Minus };
+
 struct TextBox : Control {
     std::string Text;
     std::optional<Colour> BackColor;
+    std::optional<Colour> ForeColor;
+    bool Bold = false;
     bool Locked = false;    ///< shown and copied, not typed into
     bool SelectAll = false; ///< the view selects the text at its next refresh and takes the wish back
+    int MaxLength = 0;      ///< characters; 0: no limit
+    KeyFilter Keys;
+
+    TextBox() = default;
+    explicit TextBox(const KeyFilter& keys) : Keys(keys) {}
+};
+
+/// One of the matches that a box offers while typing.
+struct Match {
+    std::int64_t Data = 0;
+    std::string Text;
+};
+
+/// A long list behind a box that completes while typing: asked for the first matches, never copied.
+class MatchSource {
+public:
+    virtual ~MatchSource() = default;
+    /// The first `limit` entries that begin with what was typed, in the order of the list; all entries match nothing.
+    [[nodiscard]] virtual std::vector<Match> matches(std::string_view typed, std::size_t limit) const = 0;
+};
+
+/// A box into which any text may be typed and that offers the entries of a long list.
+struct MatchBox : TextBox {
+    const MatchSource* Source = nullptr; ///< none: offers nothing
+    std::int64_t Chosen = 0;             ///< Data of the entry chosen last; 0: none, the text was typed
 };
 
 struct CheckBox : Control {
@@ -97,6 +137,9 @@ struct ComboBox : Control {
     int ListIndex = -1;
     std::string Text; ///< with Editable; else that of the chosen entry
     bool Editable = false;
+    bool DropDownRequested = false; ///< the view opens the list at its next refresh and takes the wish back
+    int MaxLength = 0;              ///< of typed text, in characters; 0: no limit
+    KeyFilter Keys;                 ///< of typed text
     std::optional<Colour> BackColor;
 
     /// Chooses an entry and shows its text; -1 for none.

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/jet/database.h"
+#include "platform/services/controls.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace addresses {
+
+/// The list of all addresses for the boxes that complete a guest: "LastName, FirstName, PostalCode City", in the order
+/// of the last names. Read at the first need and again when somebody says that addresses have changed.
+class Adressliste final : public services::MatchSource {
+public:
+    /// The database must outlive the list.
+    explicit Adressliste(jet::Database& db) : db_(&db) {}
+
+    /// The next need reads anew.
+    void veraltet() { gelesen_ = false; }
+    /// Begins of last names, case ignored; a text with a comma matches the whole line.
+    [[nodiscard]] std::vector<services::Match> matches(std::string_view typed, std::size_t limit) const override;
+    /// The line of an address; empty when it is not in the list.
+    [[nodiscard]] std::string Zeile(std::int64_t id) const;
+    [[nodiscard]] std::size_t Anzahl() const;
+
+private:
+    struct Eintrag {
+        std::int64_t ID;
+        std::string Nachname;
+        std::string Zeile;
+    };
+    void lesen() const;
+
+    jet::Database* db_;
+    mutable std::vector<Eintrag> einträge_;
+    mutable bool gelesen_ = false;
+};
+
+} // namespace addresses
