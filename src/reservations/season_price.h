@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/basic/date.h"
 #include "platform/jet/database.h"
 #include "platform/services/dialogs.h"
 
@@ -24,7 +25,8 @@ public:
         : db_(&db), dialogs_(&dialogs), titel_(std::move(strTitel)) {}
 
     /// Total of a stay in a room (its number); 0: not computable, also for texts that are no dates and for a departure
-    /// that is not behind the arrival. With `showMessages` tells what was found or what is missing.
+    /// that is not behind the arrival. With `showMessages` tells what was found or what is missing; a failure (an error
+    /// of the engine, no date, more nights than a stay can have) is never told.
     double Saisonpreis_Ausrechnen(int zimmer, const std::string& von, const std::string& bis, bool showMessages);
 
     /// Of the last calculation: four seasons and "Ohne Saison".
@@ -33,10 +35,21 @@ public:
     [[nodiscard]] int AnzahlSaisons() const { return saisons_; }
 
 private:
+    using Zeilen5 = std::array<Saisonzeile, 5>;
+
+    [[nodiscard]] static Zeilen5 leereZeilen();
+    void leeren();
+    [[nodiscard]] double ausrechnen(int zimmer, basic::Date von, basic::Date bis, bool showMessages);
+    void nächteZählen(basic::Date von, basic::Date bis);
+    [[nodiscard]] std::string Saison(basic::Date tag);
+    [[nodiscard]] bool hatSaisonpreis(int zimmer);
+    [[nodiscard]] double Preis(int zimmer, const std::string& saison);
+    [[nodiscard]] double preiseEintragen(int zimmer, std::string& text);
+
     jet::Database* db_;
     services::Dialogs* dialogs_;
     std::string titel_;
-    std::array<Saisonzeile, 5> zeilen_;
+    Zeilen5 zeilen_ = leereZeilen();
     int saisons_ = 0;
 };
 
