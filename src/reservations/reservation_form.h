@@ -5,6 +5,7 @@
 #include "platform/services/controls.h"
 #include "reservations/address_part.h"
 #include "reservations/reservation.h"
+#include "reservations/states.h"
 #include "start/global_state.h"
 
 #include <functional>
@@ -37,6 +38,13 @@ struct Speicherstand {
 
 enum class Abrechnungsstand { Offen, Abgerechnet };
 
+/// The look of the form's states; the states themselves are fields of the model.
+namespace look {
+inline constexpr services::Colour Aktiv = 0xADFF95;      ///< green: checked in, billed, paid, season price, block
+inline constexpr services::Colour Warnung = 0xA4BBFF;    ///< checked out, open, a short name or number that is taken
+inline constexpr services::Colour Überschneidung = 0xFF; ///< the label behind the overlap warning
+} // namespace look
+
 /// The reservation form: makes, shows and changes one stay, or walks through those of the waiting row on a day.
 class frmReservierung {
 public:
@@ -56,9 +64,12 @@ public:
     void cmdKleiner_Click();
     void mnuGroesse_Click();
     void mnuNummerEinstellen_Click();
+    /// An entry of the menu by its name; one that leads nowhere yet does nothing.
+    void Menü_Click(std::string_view name);
 
     // -- room, days and price (reservation_form_stay.cpp)
-    void fldZimmer_Click();
+    void fldZimmer_Click(); ///< chosen or typed
+    void cmdAuswahl_Click();
     services::Leave fldZimmer_LostFocus();
     void fldVon_Change();
     void fldBis_Change();
@@ -84,7 +95,10 @@ public:
     void txtBeNummer_eigen_DblClick();
     void cboAdrRechnung_Change();
     void cboAdrRechnung_Click(std::int64_t id);
-    void Feld_Change(); ///< any other field of the stay
+    services::Leave cboAdrRechnung_LostFocus();
+    void Feld_Change(); ///< any other field of the stay, meal boxes and laundry too
+    /// A text box of the stay is left that has no procedure of its own: quotation marks stand in pairs.
+    services::Leave Text_LostFocus(services::TextBox& box);
 
     // -- states (reservation_form_states.cpp)
     void lbChecked_Click();
@@ -123,17 +137,24 @@ public:
     [[nodiscard]] bool istBlock() const { return block_; }
     [[nodiscard]] bool istSaisonpreis() const { return saisonpreis_; }
     [[nodiscard]] bool istEingecheckt() const { return checked_; }
+    [[nodiscard]] bool istKürzelVergeben() const { return kürzelVergeben_; }
+    [[nodiscard]] bool istÜberschneidung() const { return überschneidung_; }
+    /// Something of the stay was changed and is not stored.
+    [[nodiscard]] bool Änderung() const { return änderung_; }
+    /// The stays of the waiting row are walked through.
+    [[nodiscard]] bool istWarteliste() const { return wartetag_.has_value(); }
 
     Adressteil adresse;
 
     // controls of the stay; fld... with an underscore stands for an umlaut
     services::TextBox fldID;
     services::TextBox fldCheckDatum; ///< hidden: the date that the next check-in or check-out sets
+    services::Label lbZimmer;        ///< as the plan calls the rooms
     services::ComboBox fldZimmer;
-    services::OptionGroup OptZiAuswahl1; ///< "alle" or "freie" rooms
-    services::Button cmdAuswahl;         ///< fills the room list anew
+    services::OptionGroup OptZiAuswahl1;                 ///< 0: all rooms, 1: the free ones
+    services::Button cmdAuswahl{"Zimmerliste erneuern"}; ///< fills the room list anew
     services::ComboBox cboArt;
-    services::Label lbArt{"Belegungs&art"};
+    services::Label lbArt{"Belegu&ngsart"};
     services::TextBox fldVon;
     services::TextBox fldBis;
     services::TextBox fldResTage; ///< nights
@@ -142,14 +163,14 @@ public:
     services::TextBox txtAlter_Kinder;
     services::ComboBox cboTarif; ///< price per night
     services::TextBox fldPreis;  ///< total
-    services::CheckBox chFix;
-    services::Button cmdSaisonpreis;
+    services::CheckBox chFix{"Preis fi&xieren"};
+    services::Button cmdSaisonpreis{"Saisonpr&eis"};
     services::TextBox fldK_rzel;
     services::TextBox fldInfo;
-    services::CheckBox chFr_hst_ck;
-    services::CheckBox chMittag;
-    services::CheckBox chAbendessen;
-    services::CheckBox chNichtAnlegen;
+    services::CheckBox chFr_hst_ck{"Frühstück"};
+    services::CheckBox chMittag{"Mittagessen"};
+    services::CheckBox chAbendessen{"Abendessen"};
+    services::CheckBox chNichtAnlegen{"&Verpflegung nicht anlegen"};
     services::ComboBox cboArtikel;
     services::Label lbW_sche1;
     services::Label lbW_sche2;
@@ -164,42 +185,118 @@ public:
     services::Label lbWarnung;
     services::Label lbWarnungSchrift;
     services::Button lbChecked;
-    services::Button cmdHeute;
+    services::Button cmdHeute{"&Heute"};
     services::Button cmdAbgerechnet;
     services::Button cmdBezahlt;
-    services::Button cmdZahlDetails;
-    services::Button cmdReservieren;
-    services::Button cmdZu;
-    services::Button cmdWarten;
+    services::Button cmdZahlDetails{"&Zahlungen"};
+    services::Button cmdReservieren{"&Speichern"};
+    services::Button cmdZu{"S&peichern und schließen"};
+    services::Button cmdWarten{"&Warteposition"};
     services::Button cmdBestVorschau;
     services::Button cmdRechnung;
-    services::Button cmdAnmeldung;
-    services::Button cmdBlockbuchung;
-    services::Button cmdBemBlock;
-    services::Button cmdAbbrechen;
-    services::Button cmdL_schen;
-    services::Button cmdErster;
-    services::Button cmdVoriger;
-    services::Button cmdN_chster;
-    services::Button cmdLetzter;
-    services::Button cmdGroesser;
-    services::Button cmdKleiner;
+    services::Button cmdAnmeldung{"An&meldung"};
+    services::Button cmdBlockbuchung{"Blockb&uchung"};
+    services::Button cmdBemBlock{"&Info für den Block"};
+    services::Button cmdAbbrechen{"A&bbrechen"};
+    services::Button cmdL_schen{"&Löschen"};
+    services::Button cmdErster{"|<"};
+    services::Button cmdVoriger{"<"};
+    services::Button cmdN_chster{">"};
+    services::Button cmdLetzter{">|"};
+    services::Button cmdGroesser{"&Größer"};
+    services::Button cmdKleiner{"&Kleiner"};
     services::Control frZusatz; ///< the frame that only the large form shows
     services::Menu Menü;
 
 private:
-    // shaped by its implementation
+    enum class Angebotszustand { Nein, Angebot, OhneZimmer };
+
+    // opening
+    void Beschriften();
+    void ListenFüllen(int art);
+    void neuÖffnen(const start::ReservierungAnfrage& anfrage);
+    void vorgabenSetzen(const start::ReservierungAnfrage& anfrage);
+    void öffnen(const start::ReservierungAnfrage& anfrage);
+    bool laden(int id);
+    void zeigen(const Reservierung& reservierung);
+    void ständeZeigen();
+    void GästezahlAnpassen();
+    void zeigePlatz(std::size_t platz);
+    void Größe(bool gross);
+    void MenüBauen();
+    [[nodiscard]] bool änderungenKlären();
+
+    // room, days and price
+    [[nodiscard]] std::optional<basic::Date> datum(const services::TextBox& box) const;
+    [[nodiscard]] int Zimmernummer() const;
+    [[nodiscard]] const masterdata::tplZimmer* Zimmer(int nummer) const;
+    void zimmerlisteFüllen();
+    void zimmerAuswählen(int nummer);
+    void zimmerGewechselt();
+    void PreisAusZimmer(int nummer);
+    void datumGeändert();
+    bool tagVerschieben(services::TextBox& box, services::Key key);
+    services::Leave datumVerlassen(services::TextBox& box);
+    void warnen();
+    void knöpfeBeschriften();
+    [[nodiscard]] Angebotszustand Angebot() const;
+    void setzeSaisonpreis(bool saisonpreis);
+    void SaisonpreisErkennen();
+    void tarifeFüllen();
+
+    // short name and number
+    void setzeKürzel(const std::string& text);
+    void kürzelPrüfen();
+    void KürzelVorgeben();
+    void NummerVergeben();
+    void NummerPrüfen();
+
+    // states
+    void checkIn(const std::string& tag);
+    void checkOut(const std::string& tag);
+    void zeigeChecked();
+    void zeigeAbrechnung();
+    void zeigeBlock();
+    void zeigeBezahlt();
+
+    // storing
+    enum class Meldung { MitPunkt, OhnePunkt };
+    bool speichern(Meldung meldung);
+    bool speichernUngeprüft();
+    [[nodiscard]] bool Pflichtfelder();
+    [[nodiscard]] bool Zahlenfelder();
+    [[nodiscard]] std::optional<bool> KollisionenLösen();
+    bool ablegen();
+    bool schluss(bool gespeichert);
+    void zurücknehmen();
+    void nachDemSpeichern();
+    [[nodiscard]] Reservierung ausFeldern() const;
+    void RechnungsadresseVorschlagen(Reservierung& reservierung);
+    bool rechnungsadresseFinden();
+    void KollisionsergebnisÜbernehmen(const start::KollisionErgebnis& ergebnis);
+    void ÜberschneidungMelden();
+    bool sagen(const std::string& text, const std::string& titel = {});
+    bool fragen(const std::string& text, services::MsgStyle style, const std::string& titel = {});
+
     start::GlobalState& g_;
     Formulardienste dienste_;
     Speicherstand stand_;
+    Reservierung gespeichert_; ///< as it was read or stored last
     std::vector<masterdata::tplZimmer> zimmer_;
+    std::vector<int> warteliste_;
+    std::size_t platz_ = 0; ///< in the waiting list
+    std::optional<basic::Date> wartetag_;
     std::string caption_;
     Abrechnungsstand abrechnung_ = Abrechnungsstand::Offen;
+    int letztesZimmer_ = 0; ///< room of the last change, so that typing a name does not change it twice
     bool geschlossen_ = false;
     bool gross_ = true;
     bool block_ = false;
     bool saisonpreis_ = false;
     bool checked_ = false;
+    bool änderung_ = false;
+    bool kürzelVergeben_ = false;
+    bool überschneidung_ = false;
 };
 
 } // namespace reservations
