@@ -10,7 +10,8 @@
 namespace addresses {
 
 /// The list of all addresses for the boxes that complete a guest: "LastName, FirstName, PostalCode City", in the order
-/// of the last names. Read at the first need and again when somebody says that addresses have changed.
+/// of the last names; what an address does not have is left out of its line. Read at the first need and again when
+/// somebody says that addresses have changed. While the table cannot be read the list is empty.
 class Adressliste final : public services::MatchSource {
 public:
     /// The database must outlive the list.
@@ -18,7 +19,7 @@ public:
 
     /// The next need reads anew.
     void veraltet() { gelesen_ = false; }
-    /// Begins of last names, case ignored; a text with a comma matches the whole line.
+    /// Begins of last names, case ignored; a text with a comma matches the whole line. Nothing for an empty text.
     [[nodiscard]] std::vector<services::Match> matches(std::string_view typed, std::size_t limit) const override;
     /// The line of an address; empty when it is not in the list.
     [[nodiscard]] std::string Zeile(std::int64_t id) const;
@@ -27,13 +28,16 @@ public:
 private:
     struct Eintrag {
         std::int64_t ID;
-        std::string Nachname;
         std::string Zeile;
+        std::string Suchtext; ///< the line folded, one spelling for each letter
+        std::size_t Rang;     ///< place in the order of the last names
     };
     void lesen() const;
+    void einlesen() const;
+    void einordnen(std::vector<std::string> schlüssel) const;
 
     jet::Database* db_;
-    mutable std::vector<Eintrag> einträge_;
+    mutable std::vector<Eintrag> einträge_; ///< by Suchtext, so that one beginning is one stretch
     mutable bool gelesen_ = false;
 };
 
