@@ -1,12 +1,12 @@
 #include "plan/forms/main_window.h"
 
 #include "plan/forms/flow_layout.h"
-#include "plan/forms/menu_view.h"
 #include "plan/forms/plan_painter.h"
 #include "plan/forms/plan_widget.h"
 #include "plan/forms/status_line.h"
 #include "plan/forms/type_frame.h"
 #include "platform/qt/look.h"
+#include "platform/qt/menu_view.h"
 #include "platform/qt/text.h"
 
 #include <QHBoxLayout>
@@ -68,8 +68,8 @@ MainWindow::MainWindow(frmMain& form)
       types_(new TypeFrame(form.optBelArt, [this](int index) { run([=, this] { form_.optBelArt_Click(index); }); })),
       status_(new StatusLine(form)), plan_(new PlanWidget(form.Raster())), scrollColumn_(new QWidget),
       scrollBar_(new QScrollBar(Qt::Vertical)),
-      menu_(std::make_unique<MenuView>(form.Menü,
-                                       [this](const std::string& name) { run([&] { form_.Menu_Click(name); }); })) {
+      menu_(std::make_unique<qt::MenuView>(form.Menü,
+                                           [this](const std::string& name) { run([&] { form_.Menu_Click(name); }); })) {
     setObjectName(QStringLiteral("frmMain"));
     writeIn(*error_, qt::look::alert);
     writeIn(*sample_, colour(form.lblBeispieldaten.ForeColor.value_or(Schwarz)));

@@ -13,9 +13,12 @@ class QLayout;
 class QPushButton;
 class QScrollBar;
 
+namespace qt {
+class MenuView;
+}
+
 namespace plan {
 
-class MenuView;
 class PlanWidget;
 class StatusLine;
 class TypeFrame;
@@ -51,7 +54,7 @@ private:
     PlanWidget* plan_;
     QWidget* scrollColumn_;
     QScrollBar* scrollBar_;
-    std::unique_ptr<MenuView> menu_;
+    std::unique_ptr<qt::MenuView> menu_;
 };
 
 } // namespace plan

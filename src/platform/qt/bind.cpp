@@ -1,6 +1,9 @@
 #include "platform/qt/bind.h"
 
+#include "platform/qt/match_box.h"
+#include "platform/qt/show.h"
 #include "platform/qt/text.h"
+#include "platform/qt/typed_text.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -11,80 +14,14 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
+
+#include <optional>
 
 namespace qt {
 
 namespace {
-
-using services::Colour;
-
-/// As the model's colour, or the style's own without one. Kept beside the widget, so that a colour that is shown
-/// already costs nothing.
-void showColours(QWidget& widget, std::optional<Colour> back, std::optional<Colour> fore = {}) {
-    QString style;
-    if (back) style += QStringLiteral("background:%1;").arg(colour(*back).name());
-    if (fore) style += QStringLiteral("color:%1;").arg(colour(*fore).name());
-    if (widget.styleSheet() != style) widget.setStyleSheet(style);
-}
-
-void showControl(QWidget& widget, services::Control& control) {
-    if (widget.isEnabled() != control.Enabled) widget.setEnabled(control.Enabled);
-    if (widget.isHidden() == control.Visible) widget.setVisible(control.Visible);
-    if (const QString tip = text(control.ToolTipText); widget.toolTip() != tip) widget.setToolTip(tip);
-    if (!control.FocusRequested) return;
-    control.FocusRequested = false;
-    widget.setFocus();
-}
-
-template <typename Widget>
-void showCaption(Widget& widget, std::string_view caption) {
-    if (const QString shown = text(caption); widget.text() != shown) widget.setText(shown);
-}
-
-QString textOf(const QLineEdit& widget) { return widget.text(); }
-QString textOf(const QPlainTextEdit& widget) { return widget.toPlainText(); }
-void setTextOf(QLineEdit& widget, const QString& text) { widget.setText(text); }
-void setTextOf(QPlainTextEdit& widget, const QString& text) { widget.setPlainText(text); }
-
-template <typename Widget>
-void showText(Widget& widget, services::TextBox& control) {
-    const QSignalBlocker silent(widget);
-    if (const QString shown = text(control.Text); textOf(widget) != shown) setTextOf(widget, shown);
-    if (widget.isReadOnly() != control.Locked) widget.setReadOnly(control.Locked);
-    showColours(widget, control.BackColor);
-    if (control.SelectAll) widget.selectAll();
-    control.SelectAll = false;
-    showControl(widget, control);
-}
-
-void fill(QComboBox& widget, const services::ListItems& items) {
-    widget.clear();
-    for (int index = 0; index < items.ListCount(); ++index)
-        widget.addItem(text(items.List(index)));
-}
-
-void showCombo(QComboBox& widget, services::ComboBox& control, unsigned& shownVersion) {
-    const QSignalBlocker silent(widget);
-    if (shownVersion != control.Items.version()) fill(widget, control.Items);
-    shownVersion = control.Items.version();
-    if (widget.currentIndex() != control.ListIndex) widget.setCurrentIndex(control.ListIndex);
-    if (control.Editable && widget.currentText() != text(control.Text)) widget.setEditText(text(control.Text));
-    showColours(widget, control.BackColor);
-    showControl(widget, control);
-}
-
-void showOptions(QButtonGroup& widget, services::OptionGroup& control) {
-    for (int index = 0; index < static_cast<int>(control.Buttons.size()); ++index) {
-        auto* button = widget.button(index);
-        auto& option = control.Buttons[static_cast<std::size_t>(index)];
-        const QSignalBlocker silent(button);
-        showCaption(*button, option.Caption);
-        if (button->isChecked() != (control.Value == index)) button->setChecked(control.Value == index);
-        showColours(*button, option.BackColor);
-        showControl(*button, option);
-    }
-}
 
 /// Leaving the window or dropping a menu is not leaving the control.
 bool staysInWindow(const QFocusEvent& event) {
@@ -92,29 +29,94 @@ bool staysInWindow(const QFocusEvent& event) {
            event.reason() != Qt::MenuBarFocusReason;
 }
 
+std::optional<services::Key> keyOf(const QKeyEvent& event) {
+    if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0) return {};
+    switch (event.key()) {
+    case Qt::Key_F2:
+        return services::Key::F2;
+    case Qt::Key_F3:
+        return services::Key::F3;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return services::Key::Return;
+    case Qt::Key_Plus:
+        return services::Key::Plus;
+    case Qt::Key_Minus:
+        return services::Key::Minus;
+    default:
+        return {};
+    }
+}
+
+TypedText typedIn(const QLineEdit& box) { return {box.text(), box.cursorPosition()}; }
+TypedText typedIn(const QPlainTextEdit& box) { return {box.toPlainText(), box.textCursor().position()}; }
+
+void write(QLineEdit& box, const TypedText& typed) {
+    const QSignalBlocker silent(box);
+    box.setText(typed.text);
+    box.setCursorPosition(static_cast<int>(typed.cursor));
+}
+
+void write(QPlainTextEdit& box, const TypedText& typed) {
+    const QSignalBlocker silent(box);
+    box.setPlainText(typed.text);
+    auto cursor = box.textCursor();
+    cursor.setPosition(static_cast<int>(typed.cursor));
+    box.setTextCursor(cursor);
+}
+
+/// Takes over what the user has typed, as far as the control takes it; refused signs vanish from the box. False when
+/// nothing is left of the change.
+template <typename Widget, typename Control>
+bool takeTyped(Widget& box, Control& control) {
+    const TypedText typed = typedIn(box);
+    const TypedText taken = acceptTyped(text(control.Text), typed.text, typed.cursor, control.Keys, control.MaxLength);
+    if (taken != typed) write(box, taken);
+    if (taken.text == text(control.Text)) return false;
+    control.Text = taken.text.toStdString();
+    return true;
+}
+
+/// Of itself the widget takes the wheel wherever the mouse happens to stand, adds what is typed to its list, completes
+/// it, and chooses when it is left: the model says what the list holds and what is chosen.
+void tame(QComboBox& widget) {
+    widget.setFocusPolicy(Qt::StrongFocus);
+    widget.setInsertPolicy(QComboBox::NoInsert);
+    if (widget.lineEdit() == nullptr) return;
+    widget.setCompleter(nullptr);
+    QObject::disconnect(widget.lineEdit(), &QLineEdit::editingFinished, &widget, nullptr);
+}
+
+bool passesOver(const QWidget& widget, const QEvent& event) {
+    return event.type() == QEvent::Wheel && qobject_cast<const QComboBox*>(&widget) != nullptr && !widget.hasFocus();
+}
+
 } // namespace
 
 Binding::Binding(QWidget& window) : QObject(&window) {}
 
 void Binding::refresh() {
-    for (const Procedure& show : shows_)
-        show();
+    {
+        const QScopedValueRollback showing(running_, true);
+        for (const Procedure& show : shows_)
+            show();
+    }
     for (const Procedure& procedure : afterRefresh_)
         procedure();
 }
 
 void Binding::run(const Procedure& procedure) {
-    const bool outer = running_;
-    running_ = true;
-    if (procedure) procedure();
-    running_ = outer;
+    {
+        const QScopedValueRollback running(running_, true);
+        if (procedure) procedure();
+    }
     refresh();
 }
 
 void Binding::bind(QLabel& widget, services::Label& control) {
     shows_.emplace_back([&widget, &control] {
         showCaption(widget, control.Caption);
-        showColours(widget, control.BackColor, control.ForeColor);
+        showFace(widget, {.back = control.BackColor, .fore = control.ForeColor});
         showControl(widget, control);
     });
 }
@@ -122,89 +124,161 @@ void Binding::bind(QLabel& widget, services::Label& control) {
 void Binding::bind(QPushButton& widget, services::Button& control, Procedure click) {
     shows_.emplace_back([&widget, &control] {
         showCaption(widget, control.Caption);
-        showColours(widget, control.BackColor);
+        showFace(widget, {.back = control.BackColor});
         showControl(widget, control);
     });
-    connect(&widget, &QPushButton::clicked, this, [this, click = std::move(click)] { run(click); });
+    connect(&widget, &QPushButton::clicked, this, [this, &widget, click = std::move(click)] {
+        if (arrives(widget)) run(click);
+    });
+    watch(widget, {.key = [&widget](services::Key key) {
+              if (key == services::Key::Return) widget.click();
+              return key == services::Key::Return;
+          }});
 }
 
 template <typename Widget>
-void Binding::bindText(Widget& widget, services::TextBox& control, TextEvents&& events) {
-    shows_.emplace_back([&widget, &control] { showText(widget, control); });
-    connect(&widget, &Widget::textChanged, this, [this, &widget, &control, change = events.change] {
-        control.Text = textOf(widget).toStdString();
-        if (change) run(change);
+void Binding::bindText(Widget& widget, services::TextBox& control, const Procedure& change) {
+    connect(&widget, &Widget::textChanged, this, [this, &widget, &control, change] {
+        if (takeTyped(widget, control)) run(change);
     });
-    watch(widget, std::move(events));
+    shows_.emplace_back([&widget, &control] { showText(widget, control); });
 }
 
 void Binding::bind(QLineEdit& widget, services::TextBox& control, TextEvents events) {
-    bindText(widget, control, std::move(events));
+    bindText(widget, control, events.change);
+    watch(widget, {std::move(events.leave), std::move(events.key), std::move(events.doubleClick)});
 }
 
 void Binding::bind(QPlainTextEdit& widget, services::TextBox& control, TextEvents events) {
-    bindText(widget, control, std::move(events));
+    bindText(widget, control, events.change);
+    watch(widget, {std::move(events.leave), std::move(events.key), std::move(events.doubleClick)});
 }
 
-void Binding::bind(QCheckBox& widget, services::CheckBox& control, Procedure click) {
+void Binding::bind(QLineEdit& widget, services::MatchBox& control, MatchEvents events) {
+    auto* popup = new MatchPopup(widget, control,
+                                 [this, &control, choose = std::move(events.choose)](const services::Match& match) {
+                                     control.Text = match.Text;
+                                     control.Chosen = match.Data;
+                                     run([&] {
+                                         if (choose) choose(match.Data);
+                                     });
+                                 });
+    bindText(widget, control, [&control, popup, change = std::move(events.change)] {
+        control.Chosen = 0;
+        if (change) change();
+        if (control.Text.empty())
+            popup->close();
+        else
+            popup->offer();
+    });
+    watch(widget, {.leave = std::move(events.leave), .key = std::move(events.key)});
+}
+
+void Binding::bind(QCheckBox& widget, services::CheckBox& control, Procedure click, KeyProcedure key) {
     shows_.emplace_back([&widget, &control] {
         const QSignalBlocker silent(widget);
         showCaption(widget, control.Caption);
         if (widget.isChecked() != control.Value) widget.setChecked(control.Value);
         showControl(widget, control);
     });
-    connect(&widget, &QCheckBox::clicked, this, [this, &control, click = std::move(click)](bool checked) {
+    connect(&widget, &QCheckBox::clicked, this, [this, &widget, &control, click = std::move(click)](bool checked) {
+        if (!arrives(widget)) return refresh();
         control.Value = checked;
         run(click);
     });
+    watch(widget, {.key = std::move(key)});
 }
 
-void Binding::bind(QComboBox& widget, services::ComboBox& control, Procedure change) {
+void Binding::bind(QComboBox& widget, services::ComboBox& control, ChoiceEvents events) {
     widget.setEditable(control.Editable);
+    tame(widget);
+    if (control.Editable) bindEdit(widget, control, events.change);
+    connect(&widget, &QComboBox::activated, this, [this, &control, click = std::move(events.click)](int index) {
+        control.choose(index);
+        run(click);
+    });
     shows_.emplace_back([&widget, &control, version = 0U]() mutable { showCombo(widget, control, version); });
-    connect(&widget, &QComboBox::currentTextChanged, this,
-            [this, &widget, &control, change = std::move(change)](const QString& shown) {
-                control.Text = shown.toStdString();
-                control.ListIndex = widget.findText(shown) == widget.currentIndex() ? widget.currentIndex() : -1;
-                run(change);
-            });
+    watch(widget, {.leave = std::move(events.leave), .key = std::move(events.key)});
 }
 
-void Binding::bind(QButtonGroup& widget, services::OptionGroup& control, std::function<void(int)> click) {
+void Binding::bindEdit(QComboBox& widget, services::ComboBox& control, const Procedure& change) {
+    // Choosing sets the text too, but only typing is told as edited.
+    connect(widget.lineEdit(), &QLineEdit::textEdited, this, [this, &widget, &control, change] {
+        if (!takeTyped(*widget.lineEdit(), control)) return;
+        control.ListIndex = -1;
+        for (int index = 0; index < control.Items.ListCount() && control.ListIndex < 0; ++index)
+            if (control.Items.List(index) == control.Text) control.ListIndex = index;
+        run(change);
+    });
+}
+
+void Binding::bind(QButtonGroup& widget, services::OptionGroup& control, std::function<void(int)> click,
+                   KeyProcedure key) {
     shows_.emplace_back([&widget, &control] { showOptions(widget, control); });
-    connect(&widget, &QButtonGroup::idClicked, this,
-            [this, click = std::move(click)](int id) { run([&click, id] { click(id); }); });
+    connect(&widget, &QButtonGroup::idClicked, this, [this, &widget, click = std::move(click)](int id) {
+        if (!arrives(*widget.button(id))) return refresh();
+        run([&click, id] { click(id); });
+    });
+    for (auto* button : widget.buttons())
+        watch(*button, {.key = key});
 }
 
-void Binding::watch(QWidget& widget, TextEvents events) {
-    if (!events.leave && !events.key && !events.doubleClick) return;
+void Binding::watch(QWidget& widget, Watched events) {
     widget.installEventFilter(this);
-    watched_.push_back({&widget, std::move(events)});
+    watched_.insert_or_assign(&widget, std::move(events));
 }
 
-void Binding::leave(const Watched& watched) {
-    if (!watched.events.leave || running_) return;
+void Binding::leave(QWidget& widget, const Watched& watched) {
+    if (!watched.leave || running_) return;
     auto answer = services::Leave::Go;
-    run([&] { answer = watched.events.leave(); });
-    if (answer != services::Leave::Stay) return;
+    run([&] { answer = watched.leave(); });
+    stayed_ = answer == services::Leave::Stay;
+    if (!stayed_) return;
     // The focus is on its way to another widget and would arrive there after us.
     QMetaObject::invokeMethod(
-        watched.widget, [widget = watched.widget] { widget->setFocus(); }, Qt::QueuedConnection);
+        &widget, [&widget] { widget.setFocus(); }, Qt::QueuedConnection);
+}
+
+/// An access key presses a button without taking the focus along. It follows here, so that the control that the user
+/// was in is left before the click; false when that one keeps the focus.
+bool Binding::arrives(QAbstractButton& widget) {
+    if (widget.hasFocus() || widget.focusPolicy() == Qt::NoFocus) return true;
+    stayed_ = false;
+    widget.setFocus(Qt::ShortcutFocusReason);
+    return !stayed_;
+}
+
+bool Binding::keyTaken(const Watched& watched, const QKeyEvent& event) {
+    const auto key = keyOf(event);
+    if (!key || !watched.key) return false;
+    bool taken = false;
+    run([&] { taken = watched.key(*key); });
+    return taken;
+}
+
+bool Binding::handled(QWidget& widget, const Watched& watched, QEvent& event) {
+    switch (event.type()) {
+    case QEvent::FocusOut:
+        if (staysInWindow(static_cast<QFocusEvent&>(event))) leave(widget, watched);
+        return false;
+    case QEvent::MouseButtonDblClick:
+        if (watched.doubleClick) run(watched.doubleClick);
+        return false;
+    case QEvent::KeyPress:
+        return keyTaken(watched, static_cast<QKeyEvent&>(event));
+    case QEvent::Wheel:
+        if (!passesOver(widget, event)) return false;
+        event.ignore();
+        return true;
+    default:
+        return false;
+    }
 }
 
 bool Binding::eventFilter(QObject* object, QEvent* event) {
-    for (const Watched& watched : watched_) {
-        if (watched.widget != object) continue;
-        if (event->type() == QEvent::FocusOut && staysInWindow(*static_cast<QFocusEvent*>(event))) leave(watched);
-        if (event->type() == QEvent::MouseButtonDblClick && watched.events.doubleClick) run(watched.events.doubleClick);
-        if (event->type() == QEvent::KeyPress && watched.events.key) {
-            bool taken = false;
-            const int key = static_cast<QKeyEvent*>(event)->key();
-            run([&] { taken = watched.events.key(key); });
-            if (taken) return true;
-        }
-    }
-    return QObject::eventFilter(object, event);
+    const auto watched = watched_.find(object);
+    if (watched == watched_.end()) return QObject::eventFilter(object, event);
+    return handled(*static_cast<QWidget*>(object), watched->second, *event) || QObject::eventFilter(object, event);
 }
 
 } // namespace qt

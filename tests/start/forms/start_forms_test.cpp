@@ -1,4 +1,3 @@
-#include "platform/qt/bind.h"
 #include "start/forms/address_dialog.h"
 #include "start/forms/database_dialog.h"
 #include "start/forms/progress_window.h"
@@ -81,64 +80,6 @@ TEST(ProgressWindow, CannotBeClosedByHand) {
               QStringLiteral("Bitte haben Sie etwas Geduld. Die Daten werden gelesen."));
     QTest::keyClick(&window, Qt::Key_Escape);
     EXPECT_TRUE(window.isVisible());
-}
-
-// The event contract
-
-struct Form : QWidget {
-    services::TextBox first;
-    services::TextBox second;
-    QLineEdit firstEdit{this};
-    QLineEdit secondEdit{this};
-    qt::Binding binding{*this};
-    int changes = 0;
-    int leaves = 0;
-
-    Form() {
-        secondEdit.move(0, 40);
-        binding.bind(firstEdit, first,
-                     {.change = [this] { ++changes; },
-                      .leave =
-                          [this] {
-                              ++leaves;
-                              secondEdit.setFocus(); // as a message box takes the focus, and gives it back
-                              firstEdit.setFocus();
-                              return first.Text == "voll" ? services::Leave::Go : services::Leave::Stay;
-                          },
-                      .key = [](int key) { return key == Qt::Key_Semicolon; }});
-        binding.bind(secondEdit, second);
-        binding.refresh();
-        show();
-        QApplication::setActiveWindow(this);
-        firstEdit.setFocus();
-    }
-};
-
-TEST(Binding, AssigningFiresNothingAndTypingFiresOnce) {
-    Form f;
-    f.first.Text = "abc";
-    f.binding.refresh();
-    EXPECT_EQ(f.firstEdit.text(), QStringLiteral("abc"));
-    EXPECT_EQ(f.changes, 0);
-    f.firstEdit.setCursorPosition(1);
-    QTest::keyClick(&f.firstEdit, Qt::Key_X);
-    EXPECT_EQ(f.first.Text, "axbc");
-    EXPECT_EQ(f.changes, 1);
-    EXPECT_EQ(f.firstEdit.cursorPosition(), 2); // a refresh leaves the cursor where it is
-    QTest::keyClicks(&f.firstEdit, QStringLiteral(";"));
-    EXPECT_EQ(f.first.Text, "axbc");
-}
-
-TEST(Binding, LeavingCallsOnceAndMayKeepTheFocus) {
-    Form f;
-    f.secondEdit.setFocus();
-    QTest::qWait(0);
-    EXPECT_EQ(f.leaves, 1);
-    EXPECT_TRUE(f.firstEdit.hasFocus());
-    f.first.Text = "voll";
-    f.binding.refresh();
-    f.secondEdit.setFocus();
-    EXPECT_EQ(f.leaves, 2);
 }
 
 } // namespace
