@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/services/controls.h"
+#include "reservations/overlap.h"
 #include "start/global_state.h"
 
 #include <array>
@@ -10,9 +11,10 @@
 
 namespace reservations {
 
-/// The dialog that solves collisions: where do the old stays go?
+/// The dialog that solves collisions: where do the old stays go? Closing it by its frame is "Neue Reservierung ändern".
 class frmCollision {
 public:
+    /// The state must outlive the dialog. Reads the free rooms of each old stay; raises the engine's errors.
     frmCollision(start::GlobalState& g, const start::KollisionAnfrage& anfrage);
 
     /// After the window is up: a member of a block without a free room cannot be solved; tells so and closes.
@@ -21,9 +23,9 @@ public:
     void cmdÄndern_Click();
     void cmdAbbrechen_Click();
     void cmdWarten_Click();
-    void scrColli_Change(int position);
-    void cboBez_Click(int zeile);  ///< visible line from 0
-    void cboBez_Change(int zeile); ///< emptied by hand
+    void scrColli_Change(int position); ///< from 1
+    void cboBez_Click(int zeile);       ///< chosen from the list; visible line from 0
+    void cboBez_Change(int zeile);      ///< typed or emptied by hand
     void chkLöschen_Click(int zeile);
 
     /// None while the dialog is open.
@@ -43,17 +45,35 @@ public:
     std::array<services::Label, Zeilen> lblBis;
     std::array<services::ComboBox, Zeilen> cboBez;
     std::array<services::CheckBox, Zeilen> chkLöschen;
-    int scrColliMax = 0; ///< highest position of the scroll bar; 0: hidden
-    int scrColli = 0;
+    int scrColliMax = 0; ///< highest position of the scroll bar, which begins with 1; 0: hidden
+    int scrColli = 1;    ///< the row that the first line shows
     services::Button cmdOK{"Änderungen ver&buchen"};
     services::Button cmdÄndern{"Neue Reservierung &ändern"};
     services::Button cmdAbbrechen{"Neue Reservierung &verwerfen"};
     services::Button cmdWarten{"Neue Reservierung in &Warteposition"};
 
 private:
-    // shaped by its implementation
+    /// A row of the list, whether it is on screen or not.
+    struct Eintrag {
+        start::Kollision Alt;
+        std::vector<FreiesZimmer> Freie; ///< in its own days, without the room that the new stay wants
+        int Auswahl = -1;                ///< index of the target among them; -1: none
+        std::string Text = {};           ///< of the combo
+        bool Block = false;              ///< member of a block: may not go to the waiting row
+    };
+
+    [[nodiscard]] Eintrag eintragFür(const start::Kollision& kollision) const;
+    [[nodiscard]] Eintrag* eintragDer(int zeile);
+    void zeigen();
+    void zeigeZeile(std::size_t zeile, const Eintrag* eintrag);
+    [[nodiscard]] bool verbuchen();
+    [[nodiscard]] bool verschieben(jet::Recordset& rs, const Eintrag& eintrag);
+    [[nodiscard]] bool darfWarten(const Eintrag& eintrag);
+    void nichtGespeichert(const Eintrag& eintrag, const std::string& weil);
+    void schließen(start::Kollisionsweg weg, bool gelöst);
+
     start::GlobalState& g_;
-    start::KollisionAnfrage anfrage_;
+    std::vector<Eintrag> einträge_;
     std::optional<start::KollisionErgebnis> ergebnis_;
 };
 

@@ -159,7 +159,10 @@ bool istAbgerechnet(jet::Database& db, int id) {
                                "(((tblBelegung.ID)=" +
                                    std::to_string(id) + ")); ",
                                jet::RecordsetType::Snapshot);
-    if (rs.Eof()) return false;
+    return !rs.Eof() && istAbgerechnet(rs);
+}
+
+bool istAbgerechnet(jet::Recordset& rs) {
     return rs.Fields("Abgerechnet").Value().longOr() == Abgerechnet ||
            basic::equalText(rs.Fields("IST_Geteilt").Value().textOr(), "Y");
 }

@@ -31,6 +31,8 @@ void CheckedSetzen(jet::Database& db, int id, bool checked);
 /// Billing state of a stay as its form shows it: open, or billed (1), or divided (IST_Geteilt "Y"); Null and 2 are
 /// open.
 [[nodiscard]] bool istAbgerechnet(jet::Database& db, int id);
+/// The same of a row whose recordset has both fields.
+[[nodiscard]] bool istAbgerechnet(jet::Recordset& rs);
 /// Toggles the flag: 1 becomes 0, anything else 1. True when the stay is billed now. Nothing happens to a missing row.
 bool AbrechnenUmschalten(jet::Database& db, int id);
 

@@ -18,6 +18,7 @@ void ScriptedDialogs::acknowledge(int count) {
 template <typename T>
 T ScriptedDialogs::answer(const Question& question, T ifNone) {
     asked_.push_back(question);
+    if (const auto action = std::exchange(meanwhile_, nullptr)) action();
     if (answers_.empty()) {
         ADD_FAILURE() << "nobody scripted: " << question.title << ": " << question.text;
         return ifNone;

@@ -3,8 +3,10 @@
 #include "platform/services/dialogs.h"
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -33,6 +35,8 @@ public:
     /// Text of an input box; path of a file or folder choice; none for cancel.
     void type(std::optional<std::string> text) { answers_.emplace_back(std::move(text)); }
     void colour(std::optional<int> bgr) { answers_.emplace_back(bgr); }
+    /// What another workstation does while the next question stands.
+    void meanwhile(std::function<void()> action) { meanwhile_ = std::move(action); }
 
     [[nodiscard]] const std::vector<Question>& asked() const { return asked_; }
     /// The last question; an empty one when nothing was asked.
@@ -52,6 +56,7 @@ private:
     T answer(const Question& question, T ifNone);
 
     std::deque<Answer> answers_;
+    std::function<void()> meanwhile_;
     std::vector<Question> asked_;
 };
 
