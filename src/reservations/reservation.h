@@ -2,6 +2,7 @@
 
 #include "platform/jet/database.h"
 
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -55,16 +56,18 @@ struct Reservierung {
 /// The address that was billed for the guest's last ended stay, when it was not his own; 0 when there is none.
 [[nodiscard]] std::int64_t LetzteRechnungsadresse(jet::Database& db, std::int64_t gast);
 
-/// The row that a new stay would be added to, opened on the stays with its short name.
 enum class Speicherergebnis { Gespeichert, KürzelVergeben, Verschwunden };
 
 /// Adds the row (`ID` 0) and sets its ID, or changes it. Where the room is 0, an existing row keeps its room and a new
-/// one gets 1; where WannErstellt is empty an existing row keeps its own. Nothing is tested but the short name of a new
-/// row and that an existing one is still there. Raises the engine's errors; nothing is written then.
-[[nodiscard]] Speicherergebnis ReservierungSpeichern(jet::Database& db, Reservierung& reservierung);
+/// one gets 1; where WannErstellt is empty an existing row keeps its own; no guests count as one. Nothing is tested but
+/// the short name of a new row and that an existing one is still there. `ergänzen` may complete a new row before it is
+/// added, once its short name is known to be free. Raises the engine's errors; nothing is written then.
+[[nodiscard]] Speicherergebnis ReservierungSpeichern(jet::Database& db, Reservierung& reservierung,
+                                                     const std::function<void(Reservierung&)>& ergänzen = {});
 /// The row that lost against another workstation.
 void ReservierungZurücknehmen(jet::Database& db, int id);
-/// The row, its posts and their links to documents: three statements, not one transaction.
-void ReservierungLöschen(jet::Database& db, int id);
+/// The row, its posts and their links to documents: three statements, not one transaction. `nachDerZeile` is called
+/// behind the first.
+void ReservierungLöschen(jet::Database& db, int id, const std::function<void()>& nachDerZeile = {});
 
 } // namespace reservations

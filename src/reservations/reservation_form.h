@@ -140,7 +140,7 @@ public:
     [[nodiscard]] bool istKürzelVergeben() const { return kürzelVergeben_; }
     [[nodiscard]] bool istÜberschneidung() const { return überschneidung_; }
     /// Something of the stay was changed and is not stored.
-    [[nodiscard]] bool Änderung() const { return änderung_; }
+    [[nodiscard]] bool Änderung() const { return änderung_ || adresse.GastID() != gespeichert_.GastID; }
     /// The stays of the waiting row are walked through.
     [[nodiscard]] bool istWarteliste() const { return wartetag_.has_value(); }
 
@@ -210,73 +210,98 @@ public:
 
 private:
     enum class Angebotszustand { Nein, Angebot, OhneZimmer };
+    enum class Meldung { MitPunkt, OhnePunkt };
 
-    // opening
-    void Beschriften();
-    void ListenFüllen(int art);
+    // the controls' captions, tool tips, keys and widths (reservation_form_look.cpp)
+    void beschriften();
+    void breitenSetzen();
+    void menüBauen();
+    void knöpfeBeschriften();
+    void zeigeGröße();
+
+    // opening and closing
+    void listenFüllen();
     void neuÖffnen(const start::ReservierungAnfrage& anfrage);
-    void vorgabenSetzen(const start::ReservierungAnfrage& anfrage);
-    void öffnen(const start::ReservierungAnfrage& anfrage);
+    void datenAusAnfrage(const start::ReservierungAnfrage& anfrage);
+    void vorgabenSetzen(int art);
+    void bestehendeÖffnen(const start::ReservierungAnfrage& anfrage);
+    void platzZeigen(std::size_t platz);
+    void zuPlatz(std::size_t platz);
     bool laden(int id);
-    void zeigen(const Reservierung& reservierung);
+    void aufenthaltZeigen(const Reservierung& r);
+    void restZeigen(const Reservierung& r);
     void ständeZeigen();
-    void GästezahlAnpassen();
-    void zeigePlatz(std::size_t platz);
-    void Größe(bool gross);
-    void MenüBauen();
+    void gästezahlAnpassen();
     [[nodiscard]] bool änderungenKlären();
 
     // room, days and price
     [[nodiscard]] std::optional<basic::Date> datum(const services::TextBox& box) const;
+    [[nodiscard]] double tarif() const; ///< 0 where the box holds no number
     [[nodiscard]] int Zimmernummer() const;
-    [[nodiscard]] const masterdata::tplZimmer* Zimmer(int nummer) const;
+    [[nodiscard]] std::string zimmername() const;
+    [[nodiscard]] std::vector<int> angeboteneZimmer() const;
     void zimmerlisteFüllen();
     void zimmerAuswählen(int nummer);
     void zimmerGewechselt();
-    void PreisAusZimmer(int nummer);
+    void preisAusZimmer(int nummer);
     void datumGeändert();
+    void prüfdatumNachziehen();
     bool tagVerschieben(services::TextBox& box, services::Key key);
     services::Leave datumVerlassen(services::TextBox& box);
     void warnen();
-    void knöpfeBeschriften();
-    [[nodiscard]] Angebotszustand Angebot() const;
+    void überschneidungPrüfen();
+    [[nodiscard]] Angebotszustand angebot() const;
+    [[nodiscard]] double Saisonpreis(bool melden);
+    void saisonpreisAus();
     void setzeSaisonpreis(bool saisonpreis);
-    void SaisonpreisErkennen();
+    void saisonpreisErkennen();
+    void setzeTarif(const std::string& text);
     void tarifeFüllen();
+    void tarifMerken();
+    void tarifVergessen();
 
-    // short name and number
+    // short name, number and billing address
     void setzeKürzel(const std::string& text);
     void kürzelPrüfen();
-    void KürzelVorgeben();
-    void NummerVergeben();
-    void NummerPrüfen();
+    void kürzelVorgeben();
+    void nummerVergeben();
+    void nummerPrüfen();
+    [[nodiscard]] bool rechnungsadresseFinden();
 
     // states
-    void checkIn(const std::string& tag);
-    void checkOut(const std::string& tag);
+    [[nodiscard]] bool angebotAbgelehnt();
+    [[nodiscard]] bool checkIn();
+    [[nodiscard]] bool checkOut();
+    [[nodiscard]] bool gleicherTag(const services::TextBox& a, const services::TextBox& b) const;
+    void setzeChecked(bool checked);
     void zeigeChecked();
     void zeigeAbrechnung();
     void zeigeBlock();
     void zeigeBezahlt();
 
     // storing
-    enum class Meldung { MitPunkt, OhnePunkt };
     bool speichern(Meldung meldung);
-    bool speichernUngeprüft();
-    [[nodiscard]] bool Pflichtfelder();
-    [[nodiscard]] bool Zahlenfelder();
-    [[nodiscard]] std::optional<bool> KollisionenLösen();
-    bool ablegen();
-    bool schluss(bool gespeichert);
+    bool speicherlauf();
+    void tageTauschen();
+    [[nodiscard]] bool pflichtfelderDa();
+    [[nodiscard]] bool raumUndTageDa();
+    [[nodiscard]] bool zahlenPassen();
+    [[nodiscard]] bool ganzzahlPasst(services::TextBox& box, std::string_view name);
+    [[nodiscard]] bool lösenUndAblegen();
+    [[nodiscard]] bool ablegen();
+    [[nodiscard]] Reservierung ausFeldern() const;
+    void rechnungsadresseVorschlagen(Reservierung& reservierung);
+    void abgelegt(const Reservierung& reservierung);
+    [[nodiscard]] bool schluss(bool abgelegt);
     void zurücknehmen();
     void nachDemSpeichern();
-    [[nodiscard]] Reservierung ausFeldern() const;
-    void RechnungsadresseVorschlagen(Reservierung& reservierung);
-    bool rechnungsadresseFinden();
-    void KollisionsergebnisÜbernehmen(const start::KollisionErgebnis& ergebnis);
-    void ÜberschneidungMelden();
-    bool sagen(const std::string& text, const std::string& titel = {});
-    bool fragen(const std::string& text, services::MsgStyle style, const std::string& titel = {});
+    void kollisionsergebnisÜbernehmen(const start::KollisionErgebnis& ergebnis);
+    void überschneidungMelden();
+    bool löschen();
+    /// Shows a message; always False, the answer of what it refuses.
+    bool ablehnen(const std::string& text, const std::string& titel = {});
+    [[nodiscard]] services::MsgResult fragen(const std::string& text, services::MsgStyle style,
+                                             const std::string& titel = {});
 
     start::GlobalState& g_;
     Formulardienste dienste_;
@@ -296,6 +321,7 @@ private:
     bool checked_ = false;
     bool änderung_ = false;
     bool kürzelVergeben_ = false;
+    bool nummerVergeben_ = false;
     bool überschneidung_ = false;
 };
 
