@@ -6,6 +6,7 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/look.h"
 #include "platform/qt/settings.h"
+#include "reservations/states.h"
 #include "start/forms/progress_window.h"
 #include "start/plan_load.h"
 #include "start/start_main.h"
@@ -37,6 +38,12 @@ struct Planfenster {
         return read;
     }
 
+    /// The same days again, after the stays have changed.
+    void showAgain() {
+        form.subZeigeDatum(grid.PlanStart());
+        window.refresh();
+    }
+
     plan::PlanAusDatenbank source;
     plan::Planraster grid;
     plan::frmMain form;
@@ -61,12 +68,21 @@ struct Building {
     }
 };
 
+/// The plan opens whatever the answers are; who says "Nein" sees to the offers on it.
+void checkOffers(start::GlobalState& g, Building& building) {
+    const auto changed = [&building] {
+        if (building.window) building.window->showAgain();
+    };
+    (void)reservations::AngebotePrüfen(g.dbHaupt, g.dialogs, g.clock.today(), g.strTitel(), changed);
+}
+
 Ladeergebnis load(start::GlobalState& g, Building& building) {
     const start::frmMaskeAufbauen progress;
     start::ProgressWindow progressWindow(progress);
     progressWindow.appear();
     start::Ladeschritte steps;
     steps.PlanAufbauen = [&] { return building.build(g); };
+    steps.AngebotePrüfen = [&] { checkOffers(g, building); };
     return start::PlanLaden(g, steps);
 }
 

@@ -1,5 +1,6 @@
 #include "app/windows.h"
 
+#include "reservations/forms/collision_dialog.h"
 #include "start/address_form.h"
 #include "start/database_form.h"
 #include "start/forms/address_dialog.h"
@@ -8,6 +9,8 @@
 
 #include <QApplication>
 
+#include <algorithm>
+#include <array>
 #include <cassert>
 
 namespace app {
@@ -15,7 +18,8 @@ namespace app {
 using start::Fenster;
 
 bool QtWindows::has(Fenster fenster) const {
-    return fenster == Fenster::Datenbankpfade || fenster == Fenster::Adresshilfe;
+    constexpr std::array vorhanden = {Fenster::Datenbankpfade, Fenster::Adresshilfe, Fenster::Kollision};
+    return std::ranges::find(vorhanden, fenster) != vorhanden.end();
 }
 
 start::PfadeErgebnis QtWindows::Datenbankpfade(const start::PfadeAnfrage& anfrage) {
@@ -37,9 +41,10 @@ int QtWindows::Reservierung(const start::ReservierungAnfrage& /*anfrage*/) {
     return 0;
 }
 
-start::KollisionErgebnis QtWindows::Kollision(const start::KollisionAnfrage& /*anfrage*/) {
-    assert(false && "not there");
-    return {};
+start::KollisionErgebnis QtWindows::Kollision(const start::KollisionAnfrage& anfrage) {
+    reservations::frmCollision form(*state_, anfrage);
+    reservations::CollisionDialog(form, QApplication::activeWindow()).exec();
+    return form.Ergebnis().value_or(start::KollisionErgebnis());
 }
 
 void QtWindows::Saisonzeiten() { assert(false && "not there"); }

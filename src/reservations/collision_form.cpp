@@ -58,6 +58,8 @@ frmCollision::frmCollision(start::GlobalState& g, const start::KollisionAnfrage&
     scrColliMax = scrollhöhe(einträge_.size());
     for (services::ComboBox& combo : cboBez)
         combo.Editable = true;
+    for (services::CheckBox& wartet : chkLöschen)
+        wartet.Caption = "Warteposition";
     zeigen();
 }
 
