@@ -1,6 +1,9 @@
 #include "app/windows.h"
 
 #include "reservations/forms/collision_dialog.h"
+#include "reservations/forms/number_dialog.h"
+#include "reservations/forms/season_dialog.h"
+#include "reservations/forms/season_prices_dialog.h"
 #include "start/address_form.h"
 #include "start/database_form.h"
 #include "start/forms/address_dialog.h"
@@ -18,7 +21,8 @@ namespace app {
 using start::Fenster;
 
 bool QtWindows::has(Fenster fenster) const {
-    constexpr std::array vorhanden = {Fenster::Datenbankpfade, Fenster::Adresshilfe, Fenster::Kollision};
+    constexpr std::array vorhanden = {Fenster::Datenbankpfade, Fenster::Adresshilfe,  Fenster::Kollision,
+                                      Fenster::Saisonzeiten,   Fenster::Saisonpreise, Fenster::Reservierungsnummern};
     return std::ranges::find(vorhanden, fenster) != vorhanden.end();
 }
 
@@ -47,10 +51,19 @@ start::KollisionErgebnis QtWindows::Kollision(const start::KollisionAnfrage& anf
     return form.Ergebnis().value_or(start::KollisionErgebnis());
 }
 
-void QtWindows::Saisonzeiten() { assert(false && "not there"); }
+void QtWindows::Saisonzeiten() {
+    reservations::frmSaison form(*state_);
+    reservations::SeasonDialog(form, QApplication::activeWindow()).exec();
+}
 
-void QtWindows::Saisonpreise(int /*zimmernummer*/) { assert(false && "not there"); }
+void QtWindows::Saisonpreise(int zimmernummer) {
+    reservations::frmSaisonpreise form(*state_, zimmernummer);
+    reservations::SeasonPricesDialog(form, QApplication::activeWindow()).exec();
+}
 
-void QtWindows::Reservierungsnummern() { assert(false && "not there"); }
+void QtWindows::Reservierungsnummern() {
+    reservations::frmBeNummer form(*state_);
+    reservations::NumberDialog(form, QApplication::activeWindow()).exec();
+}
 
 } // namespace app

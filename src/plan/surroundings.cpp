@@ -15,6 +15,7 @@ using Close = std::function<void()>;
 constexpr std::string_view kUpdateProgram = "strukturneu.exe";
 
 void open(GlobalState& g, start::Fenster fenster, const Close& close) {
+    if (fenster == start::Fenster::Saisonzeiten) g.windows.Saisonzeiten();
     if (fenster != start::Fenster::Datenbankpfade) return;
     const PfadeErgebnis result = g.windows.Datenbankpfade({});
     g.Neuaufbau = result == PfadeErgebnis::Neuaufbau;

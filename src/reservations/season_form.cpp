@@ -116,7 +116,7 @@ int Saisonliste::RowOf(int id) const {
 
 frmSaison::frmSaison(start::GlobalState& g) : g_(g) {
     grSaison.Columns = {
-        {"idSaisonzeiten", 0}, {"Saison-Beginn", 1500}, {"Saison-Ende", 1500}, {"Saisonbezeichnung", 2400}};
+        {"idSaisonzeiten", 0}, {"Saison-Beginn", 1800}, {"Saison-Ende", 1800}, {"Saisonbezeichnung", 2400}};
     grSaison.Rows = &liste_;
     txtName.Editable = true;
     for (const auto* name : {"Hauptsaison", "Zwischensaison", "Nebensaison", "Sondersaison"})
