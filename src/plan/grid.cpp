@@ -86,17 +86,19 @@ void Planraster::subReservierungen(Date Start, int Tage) {
         PlanIDs_.push_back(row.ID);
         subMarkieren(row);
     }
-    if (AktiveAuswahl) zeichneAuswahl(rows);
+    if (AktiveAuswahl) zeichneAuswahl();
 }
 
-void Planraster::zeichneAuswahl(const std::vector<Markierung>& rows) {
-    // What the selection does not tell comes from the row read last, as for any bar.
-    auto m = rows.empty() ? Markierung() : rows.back();
-    m.Von = AktiveAuswahl->Von;
-    m.Bis = AktiveAuswahl->Bis;
-    m.Zimmernummer = AktiveAuswahl->Zeile;
-    m.BelegungsID = AktiveAuswahl->Art;
-    subMarkieren(m);
+void Planraster::zeichneAuswahl() {
+    // A bar of nobody yet: what the rows behind it tell would give it a foreign name or put it into the waiting row.
+    subMarkieren({.Von = AktiveAuswahl->Von,
+                  .Bis = AktiveAuswahl->Bis,
+                  .Zimmernummer = AktiveAuswahl->Zeile,
+                  .BelegungsID = AktiveAuswahl->Art});
+}
+
+void Planraster::unfill(int Zelle) {
+    fill(Zelle, {.Fuellung = FreieFarbe((Zelle - 1) % AnzahlTage() + 1)});
 }
 
 void Planraster::subMarkierenWochenenden() {

@@ -90,6 +90,13 @@ public:
 
     /// Shown again after each load, until it is reset.
     std::optional<Auswahl> AktiveAuswahl;
+    /// Fills a free cell, for the selection; its record stays as it is.
+    void fill(int Zelle, const Zellbild& bild) { Bilder_[static_cast<std::size_t>(Zelle)] = bild; }
+    /// Gives a filled cell back the colour of a free one on its day.
+    void unfill(int Zelle);
+
+    /// A new heading of the rooms.
+    void setZimmerspalte(const std::string& text) { einstellungen_.Zimmerspalte = text; }
 
 private:
     /// All that follows from PlanStart besides the cells.
@@ -116,7 +123,7 @@ private:
     [[nodiscard]] std::optional<int> ZeileFür(const Markierung& m) const;
     [[nodiscard]] Zellbereich BereichFür(const Markierung& m, int zeile) const;
     [[nodiscard]] Farbe FarbeFür(const Markierung& m) const;
-    void zeichneAuswahl(const std::vector<Markierung>& rows);
+    void zeichneAuswahl();
     [[nodiscard]] bool belegt(int zelle, int spalte) const;
     [[nodiscard]] bool gleicherBalken(int zelle, int andere) const;
     [[nodiscard]] Balken BalkenAb(int zeile, int spalte) const;
