@@ -1,11 +1,13 @@
 #include "app/windows.h"
 #include "masterdata/rooms.h"
 #include "plan/forms/main_window.h"
+#include "plan/forms/room_choice_dialog.h"
 #include "plan/settings_reader.h"
 #include "platform/qt/desktop.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/look.h"
 #include "platform/qt/settings.h"
+#include "platform/qt/text.h"
 #include "reservations/states.h"
 #include "start/forms/progress_window.h"
 #include "start/plan_load.h"
@@ -24,7 +26,15 @@ using start::Ladeergebnis;
 struct Planfenster {
     explicit Planfenster(start::GlobalState& g)
         : source(g.dbHaupt), grid(settings(g), masterdata::ZimmerEinlesen(g.dbHaupt), source, g.clock),
-          form(grid, g.clock, plan::UmgebungAus(g, [this] { window.close(); })), window(loaded(form)) {}
+          form(grid, g.clock, surroundings(g)), window(loaded(form)) {}
+
+    plan::Umgebung surroundings(start::GlobalState& g) {
+        auto all = plan::UmgebungAus(g, [this] { window.close(); });
+        all.Zimmerauswahl = [this, &g](plan::frmZimmerauswahl& choice) {
+            plan::RoomChoiceDialog(choice, qt::text(g.strTitel()), &window).exec();
+        };
+        return all;
+    }
 
     /// The window shows what is loaded from its first painting on.
     static plan::frmMain& loaded(plan::frmMain& form) {

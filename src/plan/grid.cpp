@@ -97,9 +97,7 @@ void Planraster::zeichneAuswahl() {
                   .BelegungsID = AktiveAuswahl->Art});
 }
 
-void Planraster::unfill(int Zelle) {
-    fill(Zelle, {.Fuellung = FreieFarbe((Zelle - 1) % AnzahlTage() + 1)});
-}
+void Planraster::unfill(int Zelle) { fill(Zelle, {.Fuellung = FreieFarbe((Zelle - 1) % AnzahlTage() + 1)}); }
 
 void Planraster::subMarkierenWochenenden() {
     const auto tage = static_cast<std::size_t>(AnzahlTage());
@@ -156,6 +154,11 @@ std::vector<Zimmerbeschriftung> Planraster::SUBSetLabels(int ErsteZeile) const {
         labels.push_back(std::move(label));
     }
     return labels;
+}
+
+std::string Planraster::Zimmername(int zimmernummer) const {
+    const auto zimmer = std::ranges::find(Zimmer_, zimmernummer, &masterdata::tplZimmer::Zimmernummer);
+    return zimmer == Zimmer_.end() ? std::to_string(zimmernummer) : zimmer->NeueNummer;
 }
 
 std::string Planraster::Feiertag(Date datum) const {

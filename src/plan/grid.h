@@ -36,6 +36,8 @@ public:
     void subMarkierenWochenenden();
     /// The labels in front of the lines when `ErsteZeile` is the first row shown; the waiting row's is the last.
     [[nodiscard]] std::vector<Zimmerbeschriftung> SUBSetLabels(int ErsteZeile) const;
+    /// Display name of a room by its number; the number itself where the house has no such row.
+    [[nodiscard]] std::string Zimmername(int zimmernummer) const;
     /// Top of a line.
     [[nodiscard]] int fktTop(int Zeile) const;
     /// Left edge of a column.

@@ -3,6 +3,7 @@
 #include "plan/main_menu.h"
 #include "platform/basic/convert.h"
 #include "platform/basic/format.h"
+#include "platform/basic/quietly.h"
 #include "platform/basic/text.h"
 #include "platform/jet/error.h"
 #include "start/plan_load.h"
@@ -21,15 +22,15 @@ constexpr Farbe Rotschrift = 0x0000FF;
 /// Nobody has said yet whether the stay is paid.
 constexpr std::string_view Unbekannt = "inaktiv";
 
-std::string Kürzeltext(const tplZelle& zelle) {
-    return zelle.Kuerzel + (zelle.Checked ? "/CH/" : "/") + std::to_string(zelle.Gaeste);
-}
+/// The tick of the refresh timer that finds this count refreshes.
+constexpr int kTakte = 5;
 
 } // namespace
 
 frmMain::frmMain(Planraster& raster, const services::Clock& clock, Umgebung umgebung)
     : lblBeispieldaten(start::kBeispielhinweis), cmdBezahlt(Unbekannt), cmdNeu("&Neu"), raster_(&raster),
-      clock_(&clock), umgebung_(std::move(umgebung)) {
+      clock_(&clock), umgebung_(std::move(umgebung)), log_(std::make_unique<Zeitlog>(umgebung_.Zeitlogdatei, clock)),
+      zeichnung_(raster) {
     txtFeiertag.Visible = false;
     lblKürzel.Visible = false;
     lblBeispieldaten.ForeColor = Rotschrift;
@@ -38,7 +39,7 @@ frmMain::frmMain(Planraster& raster, const services::Clock& clock, Umgebung umge
         "Dieses Feld wird nur grün gekennzeichnet, wenn alle Posten abgerechnet wurden und wenn keine unbezahlten "
         "Rechnungen vorhanden sind  - weder für die betroffene Reservierungsadresse, noch für die betroffene "
         "Rechnungsadresse.";
-    cmdNeu.Enabled = umgebung_.has(start::Fenster::Reservierung) && umgebung_.öffnen;
+    cmdNeu.Enabled = umgebung_.has(start::Fenster::Reservierung);
     cmdNeu.ToolTipText = "Neue Reservierung eingeben";
     Menü = Hauptmenü(umgebung_, raster_->Einstellungen().strTitel);
     füllBelegungsrahmen();
@@ -70,7 +71,9 @@ void frmMain::zeigeAb(const std::function<basic::Date()>& start) {
     } catch (const jet::Error& error) {
         fehler_ = error.text();
     }
+    zeichnung_.repaint();
     zeigeKürzel();
+    betreten_.reset();
 }
 
 void frmMain::subZeigeDatum(basic::Date start) {
@@ -92,34 +95,48 @@ void frmMain::cmdErster_Click() { ScrollBar_Change(0); }
 
 void frmMain::cmdLetzter_Click() { ScrollBar_Change(ScrollBarMax()); }
 
-void frmMain::MouseMove(int zeile, int spalte) {
-    const bool aufZellen =
-        zeile >= 1 && zeile <= raster_->Wartezeile() && spalte >= 1 && spalte <= raster_->AnzahlTage();
-    fldZimmer = aufZellen ? zeile : 0;
-    fldTag = aufZellen ? spalte : 0;
-    lblHilfe.Caption.clear();
-    zeigeTag(aufZellen ? std::optional(raster_->Datum(spalte)) : std::nullopt);
-    zeigeKürzel();
+void frmMain::cmdAktualisieren_Click() {
+    Navigation_Click(*std::ranges::find(Navigationsleiste, std::string_view("cmdAktualisieren"), &Navigation::Name));
 }
 
-void frmMain::zeigeTag(std::optional<basic::Date> tag) {
-    fldDatum.Text = tag ? Format(*tag, "dd.mm.yy") : "";
-    fldWochentag.Text = tag ? Format(*tag, "Ddd") : "";
-    txtFeiertag.Text = tag ? raster_->Feiertag(*tag) : "";
-    txtFeiertag.Visible = !txtFeiertag.Text.empty();
-}
-
-void frmMain::zeigeKürzel() {
-    lblKürzel.Visible = false;
-    if (fldTag == 0) return;
-    const int zelle = raster_->Zelle(fldZimmer, fldTag);
-    if (raster_->istFrei(zelle) || raster_->Tage(zelle).ID == 0) return;
-    for (const auto& balken : raster_->BalkenDerZeile(fldZimmer)) {
-        if (fldTag < balken.VonSpalte || fldTag > balken.BisSpalte) continue;
-        lblKürzel.Caption = Kürzeltext(raster_->Tage(zelle));
-        lblKürzel.Visible = true;
-        KürzelPlatz = {balken.Zeile, balken.VonSpalte, balken.BisSpalte};
+void frmMain::TimerAktualisieren_Timer() {
+    if (Zaehler_ != kTakte) {
+        ++Zaehler_;
+        return;
     }
+    Zaehler_ = 1;
+    if (offen_ > 0)
+        aktualisieren_ = true;
+    else
+        cmdAktualisieren_Click();
+}
+
+void frmMain::ungestört(const std::function<void()>& event) {
+    ++offen_;
+    basic::quietly(event);
+    --offen_;
+    if (offen_ == 0 && std::exchange(aktualisieren_, false)) cmdAktualisieren_Click();
+}
+
+void frmMain::melde(const std::string& text, const std::string& titel) {
+    ungestört([&] { umgebung_.dialogs->MsgBox(text, {.icon = services::MsgIcon::Information}, titel); });
+}
+
+void frmMain::öffneReservierung(const start::ReservierungAnfrage& anfrage) {
+    if (!umgebung_.has(start::Fenster::Reservierung)) return;
+    if (!anfrage.IDs.empty()) LetzteReservierung = anfrage.IDs.front();
+    ungestört([&] {
+        if (const int id = umgebung_.windows->Reservierung(anfrage); id > 0) LetzteReservierung = id;
+    });
+    zeichnung_.clear();
+    cmdAktualisieren_Click();
+}
+
+void frmMain::öffneLetzte() {
+    if (LetzteReservierung == 0)
+        melde("Es wurde noch keine Reservierung geöffnet.", raster_->Einstellungen().strTitel);
+    else
+        öffneReservierung({.IDs = {LetzteReservierung}});
 }
 
 void frmMain::optBelArt_Click(int index) {
@@ -132,18 +149,27 @@ void frmMain::cmdNeu_Click() { Menu_Click("mnuNeueReservierung"); }
 
 void frmMain::Menu_Click(std::string_view name) {
     const auto* punkt = MenüpunktNamens(name);
-    if (punkt == nullptr || !freigegeben(*punkt, umgebung_)) return;
+    if (punkt == nullptr || offen_ > 0 || !freigegeben(*punkt, umgebung_)) return;
+    ungestört([&] { folge(*punkt); });
+}
+
+void frmMain::folge(const Menüpunkt& punkt) {
     using Ziel = Menüpunkt::Ziel;
-    switch (punkt->ziel) {
+    switch (punkt.ziel) {
     case Ziel::Fenster:
-        return umgebung_.öffnen(punkt->fenster);
+        return umgebung_.öffnen(punkt.fenster);
     case Ziel::Programm:
-        return umgebung_.starten(punkt->programm.empty() ? punkt->datei : punkt->programm,
-                                 punkt->mitInstanz ? "Instanz:" + std::to_string(umgebung_.Instanz) : "");
+        return starte(punkt);
     case Ziel::Dokument:
-        return umgebung_.zeigen(punkt->datei);
+        return umgebung_.zeigen(punkt.datei);
     case Ziel::Strukturupdate:
         return umgebung_.Strukturupdate();
+    case Ziel::Internet:
+        return umgebung_.Internet();
+    case Ziel::NeueReservierung:
+        return öffneReservierung({.Art = AuswahlArt});
+    case Ziel::LetzteReservierung:
+        return öffneLetzte();
     case Ziel::Beispieldaten:
         return umgebung_.Beispieldaten();
     case Ziel::DatenAb:
@@ -151,6 +177,14 @@ void frmMain::Menu_Click(std::string_view name) {
     case Ziel::Beenden:
         ende_ = true;
     }
+}
+
+void frmMain::starte(const Menüpunkt& punkt) {
+    if (punkt.ohneAngebote && umgebung_.AngebotePrüfen &&
+        !umgebung_.AngebotePrüfen([this] { cmdAktualisieren_Click(); }))
+        return;
+    umgebung_.starten(punkt.programm.empty() ? punkt.datei : punkt.programm,
+                      punkt.mitInstanz ? "Instanz:" + std::to_string(umgebung_.Instanz) : "");
 }
 
 void frmMain::springe() {

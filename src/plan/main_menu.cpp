@@ -36,7 +36,7 @@ constexpr std::array Datei = {
 };
 
 constexpr std::array Bearbeiten = {
-    fenster("mnuNeueReservierung", "Neue &Reservierung", Fenster::Reservierung),
+    Menüpunkt{.Name = "mnuNeueReservierung", .Caption = "Neue &Reservierung", .ziel = Ziel::NeueReservierung},
     Menüpunkt{.Name = "mnuDatenAb", .Caption = "&Daten anzeigen ab:", .ziel = Ziel::DatenAb},
     fenster("mnuReorganisation", "Re&organisation", Fenster::Reorganisation),
     fenster("mnuAdressenLöschen", "Adressen L&öschen", Fenster::AdressenLöschen),
@@ -45,7 +45,8 @@ constexpr std::array Bearbeiten = {
         .Name = "mnuUpdate", .Caption = "Datenbank &Update", .ziel = Ziel::Strukturupdate, .datei = "strukturneu.exe"},
 };
 
-constexpr std::array Internet = {programm("mnuInternetAuftritt", "Internet - &Auftritt", "netzlader.exe")};
+constexpr std::array Internet = {
+    Menüpunkt{.Name = "mnuInternetAuftritt", .Caption = "Internet - &Auftritt", .ziel = Ziel::Internet}};
 
 constexpr std::array Extras = {
     programm("mnuAdressverwaltung", "&Adressverwaltung", "kontaktor.exe"),
@@ -55,7 +56,8 @@ constexpr std::array Extras = {
               .ziel = Ziel::Programm,
               .datei = "auswerter.exe",
               .mitInstanz = true,
-              .nurEigeneDaten = true},
+              .nurEigeneDaten = true,
+              .ohneAngebote = true},
     programm("mnuDatenexport", "&Datenexport", "gebdaten.exe"),
     // The presence of the older import tool enables the entry, its successor is started: kept, since both are installed
     // together and houses without import have neither.
@@ -71,7 +73,8 @@ constexpr std::array Datenübersicht = {
     fenster("mnuSchnellsuche", "Schnellsuche A&dressen", Fenster::Schnellsuche),
     fenster("mnuRechnungsnummern", "Suche nach &Rechnungsnummern", Fenster::Rechnungen),
     fenster("mnuAbreisedatum", "Suche nach &Abreisedatum", Fenster::Abreiseliste),
-    fenster("mnuLetzteReservierung", "Zuletzt geöffnete Reservierung", Fenster::Reservierung),
+    Menüpunkt{
+        .Name = "mnuLetzteReservierung", .Caption = "Zuletzt geöffnete Reservierung", .ziel = Ziel::LetzteReservierung},
 };
 
 constexpr std::array Info = {
@@ -120,6 +123,11 @@ bool freigegeben(const Menüpunkt& punkt, const Umgebung& umgebung) {
         return umgebung.hat(punkt.datei) && umgebung.zeigen != nullptr;
     case Ziel::Strukturupdate:
         return umgebung.hat(punkt.datei) && umgebung.Strukturupdate != nullptr;
+    case Ziel::Internet:
+        return umgebung.Internet != nullptr;
+    case Ziel::NeueReservierung:
+    case Ziel::LetzteReservierung:
+        return umgebung.has(Fenster::Reservierung);
     case Ziel::Beispieldaten:
         return umgebung.Beispieldaten != nullptr;
     case Ziel::DatenAb:

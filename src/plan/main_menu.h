@@ -18,6 +18,9 @@ struct Menüpunkt {
         Beispieldaten,  ///< the sample data
         DatenAb,        ///< the date jump
         Strukturupdate, ///< the renewal of the data files
+        Internet,       ///< the program of the web presence, wherever it lies
+        NeueReservierung,
+        LetzteReservierung,
         Beenden
     };
 
@@ -29,6 +32,7 @@ struct Menüpunkt {
     std::string_view programm = {}; ///< what is started; empty: the file itself
     bool mitInstanz = false;        ///< the program is told the number of the instance
     bool nurEigeneDaten = false;    ///< makes no sense on the sample data
+    bool ohneAngebote = false;      ///< offers past due are seen to before
 };
 
 struct Menüspalte {

@@ -32,9 +32,7 @@ std::vector<T> rowsOf(jet::Database& db, const std::string& sql, const std::func
 }
 
 Mausfund wartend(Recordset& rows) {
-    return {.ID = number(rows, "ID"),
-            .BelegNummer_eigen = text(rows, "BelegNummer_eigen"),
-            .Von = text(rows, "Von")};
+    return {.ID = number(rows, "ID"), .BelegNummer_eigen = text(rows, "BelegNummer_eigen"), .Von = text(rows, "Von")};
 }
 
 Mausfund imZimmer(Recordset& rows) {

@@ -47,10 +47,9 @@ void Auswahlzeichnung::repaint() {
     const auto p = platz();
     if (p.Zeile == 0) return;
     for (int spalte = p.VonSpalte; spalte <= p.BisSpalte; ++spalte)
-        raster_->fill(raster_->Zelle(p.Zeile, spalte),
-                      {.Fuellung = farbe_,
-                       .ErsterTag = raster_->Datum(spalte) == auswahl().Von,
-                       .LetzteNacht = spalte == p.BisSpalte});
+        raster_->fill(raster_->Zelle(p.Zeile, spalte), {.Fuellung = farbe_,
+                                                        .ErsterTag = raster_->Datum(spalte) == auswahl().Von,
+                                                        .LetzteNacht = spalte == p.BisSpalte});
 }
 
 void Auswahlzeichnung::unpaint() {

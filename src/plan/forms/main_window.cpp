@@ -1,5 +1,6 @@
 #include "plan/forms/main_window.h"
 
+#include "plan/forms/context_menu.h"
 #include "plan/forms/flow_layout.h"
 #include "plan/forms/plan_painter.h"
 #include "plan/forms/plan_widget.h"
@@ -17,6 +18,7 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -83,6 +85,7 @@ MainWindow::MainWindow(frmMain& form)
     all->addWidget(error_);
     all->addWidget(status_);
     connectPlan();
+    startTimer();
     refresh();
     resize(sizeHint().boundedTo(screen()->availableSize())); // of itself a window opens at two thirds of the screen
     plan_->setFocus();
@@ -98,10 +101,89 @@ void MainWindow::run(const std::function<void()>& event) {
 
 void MainWindow::connectPlan() {
     plan_->onWheel = [this](int rows) { scrollBar_->setValue(scrollBar_->value() + rows); };
-    plan_->onMouse = [this](int line, int column) {
-        form_.MouseMove(line, column);
+    plan_->onWheelDays = [this](int days) { run([&] { form_.subZeigeDatum(form_.Raster().PlanStart() + days); }); };
+    plan_->onKey = [this](Plantaste taste, Umschalt shift) { return key(taste, shift); };
+    plan_->onToolTip = [this](int line, int column) { return form_.ToolTip(line, column); };
+    auto* cursor = new QShortcut(QKeySequence(Qt::Key_F6), this);
+    connect(cursor, &QShortcut::activated, this, [this] {
+        plan_->setFocus();
+        (void)key(Plantaste::F6, Umschalt::Los);
+    });
+    connectMouse();
+    connectFrame();
+}
+
+void MainWindow::connectMouse() {
+    plan_->onMove = [this](int line, int column, Maustaste held) { show(form_.MouseMove(line, column, held)); };
+    plan_->onPress = [this](int line, int column) { show(form_.MouseDown(line, column)); };
+    plan_->onHold = [this] { show(form_.MouseHold()); };
+    plan_->onRelease = [this] { show(form_.MouseUp()); };
+    plan_->onRest = [this] {
+        form_.MouseRest();
         refreshStatus();
     };
+    plan_->onRoom = [this](int line) { run([=, this] { form_.Zimmer_Click(line); }); };
+    plan_->onContext = [this](const PlanHit& hit, QPoint global) { rightButton(hit, global); };
+}
+
+void MainWindow::connectFrame() {
+    types_->onHeading = [this] { run([this] { form_.Beschriftung_Ändern(Planbeschriftung::Belegungsrahmen); }); };
+    types_->onContext = [this](QPoint global) {
+        form_.Kontext_Öffnen(Kontext::KONTEXTBelArt);
+        openContextMenuAt(global);
+    };
+}
+
+void MainWindow::startTimer() {
+    auto* timer = new QTimer(this);
+    timer->setObjectName(QStringLiteral("TimerAktualisieren"));
+    timer->setInterval(60000);
+    connect(timer, &QTimer::timeout, this, [this] { run([this] { form_.TimerAktualisieren_Timer(); }); });
+    timer->start();
+}
+
+void MainWindow::show(Wirkung wirkung) {
+    if (wirkung == Wirkung::Nichts) return;
+    if (wirkung == Wirkung::Plan) return refresh();
+    if (wirkung == Wirkung::Auswahl) plan_->refreshSelection(form_.Auswahlplatz());
+    refreshStatus();
+}
+
+void MainWindow::rightButton(const PlanHit& hit, QPoint global) {
+    using Part = PlanHit::Part;
+    switch (hit.part) {
+    case Part::Cell:
+        run([&] { form_.RechteTaste(hit.line, hit.column); });
+        break;
+    case Part::RoomHeading:
+        return run([this] { form_.Beschriftung_Ändern(Planbeschriftung::Zimmerspalte); });
+    case Part::Room:
+    case Part::RoomColumn:
+        form_.Kontext_Öffnen(Kontext::KontextZimmer);
+        break;
+    case Part::Extras:
+        form_.Kontext_Öffnen(Kontext::kontextZusätze);
+        break;
+    case Part::Days:
+        form_.Kontext_Öffnen(Kontext::KontextDatum);
+        break;
+    case Part::None:
+        return;
+    }
+    openContextMenuAt(global);
+}
+
+void MainWindow::openContextMenuAt(QPoint global) {
+    if (form_.Kontextmenü.Entries.empty()) return;
+    openContextMenu(*this, form_.Kontextmenü, global,
+                    [this](const std::string& name) { run([&] { form_.Kontext_Click(name); }); });
+}
+
+bool MainWindow::key(Plantaste key, Umschalt shift) {
+    bool taken = false;
+    run([&] { taken = form_.KeyDown(key, shift); });
+    if (taken && key == Plantaste::Menü) openContextMenuAt(plan_->mapToGlobal(plan_->cursorRect().bottomLeft()));
+    return taken;
 }
 
 QLayout* MainWindow::periodRow() {
@@ -193,6 +275,8 @@ void MainWindow::refresh() {
     scrollBar_->setPageStep(form_.Raster().Zimmerzeilen());
     scrollBar_->setValue(form_.ScrollBarValue());
     plan_->refresh();
+    plan_->refreshSelection(form_.Auswahlplatz());
+    plan_->showCursor(form_.Cursor());
     refreshStatus();
 }
 

@@ -19,6 +19,7 @@ class MenuView;
 
 namespace plan {
 
+struct PlanHit;
 class PlanWidget;
 class StatusLine;
 class TypeFrame;
@@ -43,6 +44,14 @@ private:
     [[nodiscard]] QWidget* navigation(std::size_t first, std::size_t end);
     [[nodiscard]] QPushButton* navigationButton(const Navigation& button);
     void connectPlan();
+    void connectMouse();
+    void connectFrame();
+    void startTimer();
+    /// Shows what an event of the mouse has changed, and no more.
+    void show(Wirkung wirkung);
+    void openContextMenuAt(QPoint global);
+    void rightButton(const PlanHit& hit, QPoint global);
+    [[nodiscard]] bool key(Plantaste key, Umschalt shift);
 
     frmMain& form_;
     QLabel* period_;

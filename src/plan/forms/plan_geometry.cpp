@@ -50,6 +50,20 @@ QRect PlanGeometry::lowerDay(int column) const {
 
 QRect PlanGeometry::roomHeading() const { return {0, 0, cells_.left(), headerHeight}; }
 
+QRect PlanGeometry::roomHeadingWord() const { return {0, monthHeight, cells_.left(), headerHeight - monthHeight}; }
+
+PlanHit PlanGeometry::hit(QPoint point) const {
+    using Part = PlanHit::Part;
+    const int line = lineAt(point.y());
+    const int column = columnAt(point.x());
+    const bool inLine = line >= 1 && line <= lines_;
+    if (column >= 1 && column <= columns_) return {inLine ? Part::Cell : Part::Days, line, column};
+    if (column != 0) return {};
+    if (roomHeadingWord().contains(point)) return {Part::RoomHeading};
+    if (!inLine) return {line == 0 ? Part::RoomColumn : Part::None};
+    return {point.x() < widths_.room ? Part::Room : Part::Extras, line};
+}
+
 QRect PlanGeometry::room(int line) const { return {0, y(line), widths_.room, y(line + 1) - y(line)}; }
 
 QRect PlanGeometry::extra(int line, int which) const {

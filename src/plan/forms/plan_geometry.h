@@ -13,6 +13,15 @@ struct Spaltenmasse {
     int extras = 0; ///< of each of the two extras columns; 0: not shown
 };
 
+/// The part of the plan at a point.
+struct PlanHit {
+    enum class Part { None, Cell, Room, RoomHeading, RoomColumn, Extras, Days };
+
+    Part part = Part::None;
+    int line = 0; ///< of cells, rooms and extras
+    int column = 0;
+};
+
 /// Places the parts of the plan in the space of the widget: cells share what the headers leave over, in proportion to
 /// their size in twips. All edges are whole pixels, so that lines stay sharp.
 class PlanGeometry {
@@ -34,11 +43,15 @@ public:
     /// 0 above the first and lines + 1 below the last.
     [[nodiscard]] int lineAt(int y) const;
 
+    [[nodiscard]] PlanHit hit(QPoint point) const;
+
     [[nodiscard]] QRect monthNames() const;
     [[nodiscard]] QRect monthBand(int column) const;
     [[nodiscard]] QRect upperDay(int column) const;
     [[nodiscard]] QRect lowerDay(int column) const;
     [[nodiscard]] QRect roomHeading() const;
+    /// The part of it that carries the heading's word.
+    [[nodiscard]] QRect roomHeadingWord() const;
     [[nodiscard]] QRect room(int line) const;
     /// Extras cell 1 or 2 of a line.
     [[nodiscard]] QRect extra(int line, int which) const;

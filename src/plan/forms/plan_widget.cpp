@@ -4,12 +4,15 @@
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
+#include <QContextMenuEvent>
 #include <QFontMetrics>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -22,6 +25,38 @@ namespace {
 /// Pixels of a screen at 100 %.
 constexpr int twipsPerPixel = 15;
 constexpr int wheelNotch = 120;
+/// Milliseconds after which the pointer counts as resting, and of a day while a stay is drawn past the edge.
+constexpr int restTime = 150;
+constexpr int holdTime = 220;
+
+std::optional<Plantaste> planKey(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Left:
+        return Plantaste::Links;
+    case Qt::Key_Right:
+        return Plantaste::Rechts;
+    case Qt::Key_Up:
+        return Plantaste::Auf;
+    case Qt::Key_Down:
+        return Plantaste::Ab;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return Plantaste::Return;
+    case Qt::Key_Escape:
+        return Plantaste::Esc;
+    case Qt::Key_Menu:
+        return Plantaste::Menü;
+    case Qt::Key_F10:
+        if (event.modifiers() == Qt::ShiftModifier) return Plantaste::Menü;
+        break;
+    default:
+        break;
+    }
+    return std::nullopt;
+}
+
+/// A tool tip takes a guest's name for markup where it looks like it.
+QString plainToolTip(const QString& text) { return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text; }
 
 } // namespace
 
@@ -37,6 +72,15 @@ PlanWidget::PlanWidget(const Planraster& grid, QWidget* parent)
     shortName_->setStyleSheet(QStringLiteral("background: %1; color: %2; border: 1px solid %3; padding: 0px 5px;")
                                   .arg(qt::look::surface.name(), qt::look::text.name(), qt::look::text.name()));
     shortName_->hide();
+    rest_.setSingleShot(true);
+    rest_.setInterval(restTime);
+    hold_.setInterval(holdTime);
+    connect(&rest_, &QTimer::timeout, this, [this] {
+        if (onRest) onRest();
+    });
+    connect(&hold_, &QTimer::timeout, this, [this] {
+        if (onHold) onHold();
+    });
     refresh();
 }
 
@@ -69,21 +113,78 @@ QSize PlanWidget::minimumSizeHint() const { return {480, 220}; }
 void PlanWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     PlanPainter(painter, grid_, places_, event->rect()).paint(rooms_);
+    if (!cursor_) return;
+    painter.setPen(QPen(qt::look::alert, 3));
+    painter.drawRect(cursorRect().adjusted(1, 1, -2, -2));
 }
 
 void PlanWidget::resizeEvent(QResizeEvent* event) { places_ = PlanGeometry(grid_, event->size(), places_.widths()); }
 
 void PlanWidget::mouseMoveEvent(QMouseEvent* event) {
     const auto point = event->position().toPoint();
-    moveTo({places_.columnAt(point.x()), places_.lineAt(point.y())});
+    rest_.start();
+    if (onMove)
+        onMove(places_.lineAt(point.y()), places_.columnAt(point.x()),
+               event->buttons().testFlag(Qt::LeftButton) ? Maustaste::Links : Maustaste::Keine);
 }
 
-void PlanWidget::leaveEvent(QEvent*) { moveTo({}); }
+void PlanWidget::mousePressEvent(QMouseEvent* event) {
+    const auto hit = places_.hit(event->position().toPoint());
+    if (event->button() == Qt::RightButton) {
+        if (onContext) onContext(hit, event->globalPosition().toPoint());
+        return;
+    }
+    if (event->button() != Qt::LeftButton) return;
+    if (hit.part == PlanHit::Part::Cell && onPress) {
+        hold_.start();
+        onPress(hit.line, hit.column);
+    }
+    if (hit.part == PlanHit::Part::Room && onRoom) onRoom(hit.line);
+}
 
-void PlanWidget::moveTo(QPoint cell) {
-    if (cell == cell_) return;
-    cell_ = cell;
-    if (onMouse) onMouse(cell.y(), cell.x());
+void PlanWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    hold_.stop();
+    if (onRelease) onRelease();
+}
+
+void PlanWidget::keyPressEvent(QKeyEvent* event) {
+    const auto key = planKey(*event);
+    const auto shift = event->modifiers().testFlag(Qt::ShiftModifier) ? Umschalt::Gedrückt : Umschalt::Los;
+    if (!key || !onKey || !onKey(*key, shift)) QWidget::keyPressEvent(event);
+}
+
+/// The menu is opened by the press itself, of the button or of the key.
+void PlanWidget::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
+
+void PlanWidget::leaveEvent(QEvent*) {
+    rest_.stop();
+    if (onMove) onMove(0, 0, Maustaste::Keine);
+}
+
+QRect PlanWidget::rectOf(const Platz& place) const {
+    if (place.Zeile == 0) return {};
+    return places_.span(place.Zeile, place.VonSpalte, place.BisSpalte).adjusted(-2, 0, 2, 0);
+}
+
+void PlanWidget::refreshSelection(const Platz& place) {
+    update(rectOf(selection_).united(rectOf(place)));
+    selection_ = place;
+}
+
+QRect PlanWidget::cursorRect() const {
+    if (!cursor_) return {};
+    const auto [line, column] = *cursor_;
+    if (line == 0 && column == 0) return places_.roomHeadingWord();
+    if (column == 0) return places_.room(line);
+    return line == 0 ? places_.upperDay(column) : places_.cell(line, column);
+}
+
+void PlanWidget::showCursor(const std::optional<Zellcursor>& cursor) {
+    if (cursor == cursor_) return;
+    update(cursorRect());
+    cursor_ = cursor;
+    update(cursorRect());
 }
 
 void PlanWidget::showShortName(const QString& text, int line, int column) {
@@ -98,29 +199,42 @@ void PlanWidget::showShortName(const QString& text, int line, int column) {
 void PlanWidget::hideShortName() { shortName_->hide(); }
 
 void PlanWidget::wheelEvent(QWheelEvent* event) {
-    wheelRest_ += event->angleDelta().y();
+    const auto delta = event->angleDelta();
+    wheelRest_ += delta.y() != 0 ? delta.y() : delta.x();
     const int notches = wheelRest_ / wheelNotch;
     wheelRest_ -= notches * wheelNotch;
-    if (notches != 0 && onWheel) onWheel(-notches);
+    const auto& turned = event->modifiers().testFlag(Qt::ShiftModifier) ? onWheelDays : onWheel;
+    if (notches != 0 && turned) turned(-notches);
     event->accept();
 }
 
 bool PlanWidget::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(), toolTipAt(help->pos()), this);
+    QToolTip::showText(help->globalPos(), plainToolTip(toolTipAt(help->pos())), this);
     return true;
 }
 
 QString PlanWidget::toolTipAt(const QPoint& point) const {
-    const int line = places_.lineAt(point.y());
-    const int column = places_.columnAt(point.x());
-    if (line == 0 && column >= 1 && column <= places_.columns())
-        return qt::text(grid_.Kopf()[static_cast<std::size_t>(column - 1)].ToolTipText);
-    if (column != 0 || line < 1 || line > static_cast<int>(rooms_.size())) return {};
-    const auto& room = rooms_[static_cast<std::size_t>(line - 1)];
-    if (room.Zimmer != nullptr && places_.extra(line, 1).contains(point)) return qt::text(room.Zimmer->Z1Bedeutung);
-    if (room.Zimmer != nullptr && places_.extra(line, 2).contains(point)) return qt::text(room.Zimmer->Z2Bedeutung);
+    const auto hit = places_.hit(point);
+    switch (hit.part) {
+    case PlanHit::Part::Days:
+        return hit.line == 0 ? qt::text(grid_.Kopf()[static_cast<std::size_t>(hit.column - 1)].ToolTipText) : QString();
+    case PlanHit::Part::Cell:
+        return onToolTip ? qt::text(onToolTip(hit.line, hit.column)) : QString();
+    case PlanHit::Part::Room:
+    case PlanHit::Part::Extras:
+        return roomToolTip(hit, point);
+    default:
+        return {};
+    }
+}
+
+QString PlanWidget::roomToolTip(const PlanHit& hit, const QPoint& point) const {
+    if (hit.line > static_cast<int>(rooms_.size())) return {};
+    const auto& room = rooms_[static_cast<std::size_t>(hit.line - 1)];
+    if (room.Zimmer != nullptr && places_.extra(hit.line, 1).contains(point)) return qt::text(room.Zimmer->Z1Bedeutung);
+    if (room.Zimmer != nullptr && places_.extra(hit.line, 2).contains(point)) return qt::text(room.Zimmer->Z2Bedeutung);
     return qt::text(room.ToolTipText);
 }
 

@@ -11,15 +11,18 @@ namespace plan {
 
 namespace {
 
+QString fieldStyle(const QColor& back) {
+    return QStringLiteral("QLabel { background: %1; border: 1px solid %2; border-radius: 4px; padding: 2px 6px; }")
+        .arg(back.name(), qt::look::border.name());
+}
+
 QLabel* field(const char* name, int width) {
     auto* label = new QLabel;
     label->setObjectName(QString::fromLatin1(name));
     label->setTextFormat(Qt::PlainText);
     label->setMinimumWidth(width);
     label->setAlignment(Qt::AlignCenter);
-    label->setStyleSheet(QStringLiteral("QLabel { background: %1; border: 1px solid %2; border-radius: 4px;"
-                                        " padding: 2px 6px; }")
-                             .arg(qt::look::surface.name(), qt::look::border.name()));
+    label->setStyleSheet(fieldStyle(qt::look::surface));
     return label;
 }
 
@@ -46,6 +49,8 @@ void StatusLine::refresh(const frmMain& form) {
     holiday_->setText(qt::text(form.txtFeiertag.Text));
     holiday_->setVisible(form.txtFeiertag.Visible);
     paid_->setText(qt::text(form.cmdBezahlt.Caption));
+    const auto style = fieldStyle(form.cmdBezahlt.BackColor ? colour(*form.cmdBezahlt.BackColor) : qt::look::surface);
+    if (paid_->styleSheet() != style) paid_->setStyleSheet(style);
     paid_->setToolTip(qt::text(form.cmdBezahlt.ToolTipText));
     help_->setText(qt::text(form.lblHilfe.Caption));
 }

@@ -7,6 +7,7 @@
 
 #include <QLabel>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 namespace plan {
@@ -48,7 +49,23 @@ TypeFrame::TypeFrame(const services::OptionGroup& types, const std::function<voi
         connect(buttons_.back(), &QRadioButton::clicked, this, [chosen, index] { chosen(index); });
         row->addWidget(buttons_.back());
     }
+    connectRightButton();
     refresh(types);
+}
+
+void TypeFrame::connectRightButton() {
+    heading_->setContextMenuPolicy(Qt::CustomContextMenu);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    const auto rename = [this] {
+        if (onHeading) onHeading();
+    };
+    connect(heading_, &QLabel::customContextMenuRequested, this, rename);
+    connect(this, &QWidget::customContextMenuRequested, this, [this](QPoint at) {
+        if (onContext) onContext(mapToGlobal(at));
+    });
+    auto* key = new QShortcut(QKeySequence(Qt::Key_F2), this);
+    key->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(key, &QShortcut::activated, this, rename);
 }
 
 void TypeFrame::refresh(const services::OptionGroup& types) {

@@ -20,7 +20,14 @@ public:
 
     void refresh(const services::OptionGroup& types);
 
+    /// The right button on the heading, or F2.
+    std::function<void()> onHeading;
+    /// The right button on the frame, with the place on the screen.
+    std::function<void(QPoint global)> onContext;
+
 private:
+    void connectRightButton();
+
     QLabel* heading_;
     std::vector<QRadioButton*> buttons_;
 };
