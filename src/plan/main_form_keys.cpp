@@ -77,6 +77,7 @@ void frmMain::zieheAuswahl(Plantaste taste) {
     if (!AuswahlAktiv()) {
         MouseDown(cursor_->Zeile, cursor_->Spalte);
         if (!AuswahlAktiv()) return;
+        if (cursor_->Spalte == raster_->AnzahlTage()) Navigation_Click(Taste("cmdNextDay"));
     }
     if (taste == Plantaste::Links) cursor_->Spalte = std::max(cursor_->Spalte - 1, 1);
     if (taste == Plantaste::Rechts) cursor_->Spalte = std::min(cursor_->Spalte + 1, raster_->AnzahlTage());

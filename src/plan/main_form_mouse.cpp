@@ -197,17 +197,18 @@ std::string frmMain::Ablehnung(int zeile) const {
 Wirkung frmMain::MouseDown(int zeile, int spalte) {
     if (bewegt_ || offen_ > 0 || !umgebung_.has(start::Fenster::Reservierung)) return Wirkung::Nichts;
     if (!aufZellen(zeile, spalte)) return Wirkung::Nichts;
+    zeichnung_.clear(); // of a press whose release got lost
     log_->Kopf();
     log_->Stufe("Position des Cursers ermittelt  ");
     if (const auto grund = Ablehnung(zeile); !grund.empty()) {
         melde(grund, raster_->Einstellungen().strTitel);
-        return Wirkung::Status;
+        return Wirkung::Auswahl;
     }
     // A new stay may begin on a departure day, but must have its first night.
     const int zelle = raster_->Zelle(zeile, spalte);
     if (!raster_->istFrei(zelle) || (spalte < raster_->AnzahlTage() && !raster_->istFrei(zelle + 1))) {
         melde("Hier besteht bereits eine Reservierung.", "Reservierung");
-        return Wirkung::Status;
+        return Wirkung::Auswahl;
     }
     zeichnung_.begin(Zimmernummer(zeile), raster_->Datum(spalte), AuswahlArt, AuswahlFarbe);
     log_->Stufe("Zugehörige Markierung gesucht  ");

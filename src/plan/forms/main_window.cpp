@@ -114,10 +114,10 @@ void MainWindow::connectPlan() {
 }
 
 void MainWindow::connectMouse() {
-    plan_->onMove = [this](int line, int column, Maustaste held) { show(form_.MouseMove(line, column, held)); };
-    plan_->onPress = [this](int line, int column) { show(form_.MouseDown(line, column)); };
-    plan_->onHold = [this] { show(form_.MouseHold()); };
-    plan_->onRelease = [this] { show(form_.MouseUp()); };
+    plan_->onMove = [this](int line, int column, Maustaste held) { apply(form_.MouseMove(line, column, held)); };
+    plan_->onPress = [this](int line, int column) { apply(form_.MouseDown(line, column)); };
+    plan_->onHold = [this] { apply(form_.MouseHold()); };
+    plan_->onRelease = [this] { apply(form_.MouseUp()); };
     plan_->onRest = [this] {
         form_.MouseRest();
         refreshStatus();
@@ -142,7 +142,7 @@ void MainWindow::startTimer() {
     timer->start();
 }
 
-void MainWindow::show(Wirkung wirkung) {
+void MainWindow::apply(Wirkung wirkung) {
     if (wirkung == Wirkung::Nichts) return;
     if (wirkung == Wirkung::Plan) return refresh();
     if (wirkung == Wirkung::Auswahl) plan_->refreshSelection(form_.Auswahlplatz());

@@ -48,7 +48,7 @@ private:
     void connectFrame();
     void startTimer();
     /// Shows what an event of the mouse has changed, and no more.
-    void show(Wirkung wirkung);
+    void apply(Wirkung wirkung);
     void openContextMenuAt(QPoint global);
     void rightButton(const PlanHit& hit, QPoint global);
     [[nodiscard]] bool key(Plantaste key, Umschalt shift);
