@@ -1,7 +1,8 @@
 #include "store/new_house.h"
+
+#include "app/german_call.h"
 #include "platform/services/clock.h"
 
-#include <CLI/CLI.hpp>
 #include <iostream>
 
 namespace {
@@ -9,17 +10,6 @@ namespace {
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
 constexpr int kWrongCall = 2;
-
-void makeGerman(CLI::App& app) {
-    app.option_defaults()->group("Optionen");
-    app.set_help_flag("--help,-h", "Zeigt diese Hilfe")->group("Optionen");
-    const auto formatter = app.get_formatter();
-    formatter->label("Usage", "Aufruf");
-    formatter->label("OPTIONS", "OPTIONEN");
-    formatter->label("Positionals", "Argumente");
-    formatter->label("REQUIRED", "(notwendig)");
-    formatter->label("TEXT", "");
-}
 
 int createHouse(const store::NewHouse& house) {
     try {
@@ -40,15 +30,15 @@ int createHouse(const store::NewHouse& house) {
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App app{"Legt in einem Ordner die Dateien eines neuen Hauses an.", "herbergo-neu"};
-    makeGerman(app);
+    CLI::App programm{"Legt in einem Ordner die Dateien eines neuen Hauses an.", "herbergo-neu"};
+    app::makeGerman(programm);
     store::NewHouse house;
-    app.add_option("ORDNER", house.Ordner, "Ordner für die Dateien; er wird angelegt, wenn er fehlt")->required();
-    app.add_flag("--beispiel", house.mitBeispiel, "Mit zehn Zimmern, erfundenen Gästen und Aufenthalten um heute");
+    programm.add_option("ORDNER", house.Ordner, "Ordner für die Dateien; er wird angelegt, wenn er fehlt")->required();
+    programm.add_flag("--beispiel", house.mitBeispiel, "Mit zehn Zimmern, erfundenen Gästen und Aufenthalten um heute");
     try {
-        app.parse(argc, argv);
+        programm.parse(argc, argv);
     } catch (const CLI::CallForHelp& help) {
-        return app.exit(help);
+        return programm.exit(help);
     } catch (const CLI::ParseError&) {
         std::cerr << "herbergo-neu: Aufruf mit einem Ordner: herbergo-neu ORDNER [--beispiel]\n";
         return kWrongCall;

@@ -3,6 +3,7 @@
 #include "store/base_lists.h"
 #include "store/database_files.h"
 #include "store/links.h"
+#include "store/postal_codes.h"
 #include "store/sample_house.h"
 #include "store/schema.h"
 
@@ -107,9 +108,12 @@ void createBeispiel(const jet::Workspace& workspace, const std::string& path, co
     if (house.beispieldatei) fillSampleHouse(database, house.Jetzt);
 }
 
-void createFeiertag(const jet::Workspace& workspace, const std::string& path, Scaffold& scaffold) {
+void createFeiertag(const jet::Workspace& workspace, const std::string& path, const NewHouse& house,
+                    Scaffold& scaffold) {
     jet::Database database = createFile(workspace, path, scaffold);
     database.AppendTableDefs(holidayFileTables());
+    if (!house.postleitzahlen) return;
+    storePostalCodes(database, readPostalCodes(builtInPostalCodes()).rows, ExistingCodes::Replace);
 }
 
 void createFiles(const jet::Workspace& workspace, const NewHouse& house, Scaffold& scaffold) {
@@ -117,7 +121,7 @@ void createFiles(const jet::Workspace& workspace, const NewHouse& house, Scaffol
     createZentral(workspace, joinPath(house.Ordner, names.Zentral), scaffold);
     createHerbergo(workspace, joinPath(house.Ordner, names.Herbergo), scaffold);
     createBeispiel(workspace, joinPath(house.Ordner, names.Beispiel), house, scaffold);
-    createFeiertag(workspace, joinPath(house.Ordner, kHolidayFile), scaffold);
+    createFeiertag(workspace, joinPath(house.Ordner, kHolidayFile), house, scaffold);
     createLokal(workspace, house.Ordner, scaffold);
 }
 

@@ -16,6 +16,7 @@ jet::Database createAndOpen(const jet::Workspace& workspace, const TempFolder& f
     house.Jetzt = now;
     house.mitBeispiel = content == TestHouse::Content::Sample;
     house.beispieldatei = false;
+    house.postleitzahlen = false;
     store::createHouse(workspace, house);
     return workspace.OpenDatabase(folder.file("Lokal.mdb"), false, false, store::openConnect());
 }

@@ -55,6 +55,7 @@ struct TestStart {
         house.Ordner = folder == "." ? ordner.path().string() : file(folder);
         house.Jetzt = clock.now();
         house.beispieldatei = false;
+        house.postleitzahlen = false;
         store::createHouse(workspace, house);
         std::filesystem::remove(store::joinPath(house.Ordner, "Beispiel.mdb")); // the start makes a filled one
     }
