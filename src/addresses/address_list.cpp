@@ -76,7 +76,6 @@ void Adressliste::lesen() const {
 std::vector<services::Match> Adressliste::matches(std::string_view typed, std::size_t limit) const {
     lesen();
     const std::string anfang = gefaltet(basic::LTrim(typed));
-    if (anfang.empty()) return {};
     const auto beginn = [&](const Eintrag& eintrag) {
         return std::string_view(eintrag.Suchtext).substr(0, anfang.size());
     };

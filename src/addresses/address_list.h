@@ -19,7 +19,7 @@ public:
 
     /// The next need reads anew.
     void veraltet() { gelesen_ = false; }
-    /// Begins of last names, case ignored; a text with a comma matches the whole line. Nothing for an empty text.
+    /// Begins of last names, case ignored; a text with a comma matches the whole line. An empty text begins them all.
     [[nodiscard]] std::vector<services::Match> matches(std::string_view typed, std::size_t limit) const override;
     /// The line of an address; empty when it is not in the list.
     [[nodiscard]] std::string Zeile(std::int64_t id) const;

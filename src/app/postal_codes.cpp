@@ -36,8 +36,9 @@ std::optional<std::string> bytesOf(const std::string& path) {
 
 void tellBadLines(const std::vector<int>& lines) {
     if (lines.empty()) return;
-    std::cerr << "herbergo-plz: " << lines.size() << (lines.size() == 1 ? " Zeile ist" : " Zeilen sind")
-              << " keine Angabe 'PLZ;Ort' und wurden übergangen:";
+    const bool one = lines.size() == 1;
+    std::cerr << "herbergo-plz: " << lines.size() << (one ? " Zeile ist" : " Zeilen sind")
+              << " keine Angabe 'PLZ;Ort' und " << (one ? "wurde" : "wurden") << " übergangen:";
     for (std::size_t i = 0; i < std::min(lines.size(), kToldLines); ++i)
         std::cerr << ' ' << lines[i];
     std::cerr << (lines.size() > kToldLines ? " ...\n" : "\n");

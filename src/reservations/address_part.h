@@ -2,10 +2,13 @@
 
 #include "addresses/address.h"
 #include "addresses/address_list.h"
+#include "addresses/postal_codes.h"
 #include "platform/services/controls.h"
 #include "start/global_state.h"
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 namespace reservations {
 
@@ -21,14 +24,15 @@ public:
     void zeigen(std::int64_t id);
 
     // event procedures
-    void cboAdresse_Change();                     ///< typed: a guest that is not in the list
-    void cboAdresse_Click(std::int64_t id);       ///< chosen from the list
-    bool cboAdresse_KeyDown(services::Key key);   ///< F2 deletes the address
+    void cboAdresse_Change();                   ///< typed: a guest that is not in the list, until it is his name again
+    void cboAdresse_Click(std::int64_t id);     ///< chosen from the list
+    bool cboAdresse_KeyDown(services::Key key); ///< F2 deletes the address
     void Feld_Change() { Adress_nderung = true; } ///< any other field of this half
+    services::Leave Feld_LostFocus();             ///< any field: quotes in its text stand in pairs afterwards
     services::Leave txtPLZ_LostFocus();           ///< one place fills the town, several are offered
     void cboOrt_Click();                          ///< one of the offered places: its postal code too
-    void cboLand_KeyDown(services::Key key);      ///< F2 takes the country from the list
-    services::Leave cboLand_LostFocus();
+    bool cboLand_KeyDown(services::Key key);      ///< F2 takes the country from the list
+    services::Leave cboLand_LostFocus();          ///< a new country may go to the list
     bool chStammkunde_KeyDown(services::Key key); ///< F2 asks for the default of new addresses
     void cmdNeuAdress_Click();
     void cmdAdresseSpeichern_Click();
@@ -68,12 +72,41 @@ public:
     services::Button cmdAdresseSpeichern{"A&dresse speichern"};
 
 private:
+    /// A field of text and the column that it goes to.
+    struct Textfeld {
+        const char* Spalte;
+        const char* Bezeichnung;
+        std::string* Text;
+        services::Control* Steuerelement;
+        int* MaxLength;
+        services::KeyFilter* Keys;
+    };
+
+    [[nodiscard]] std::vector<Textfeld> Textfelder();
+    void einrichten();
+    void listenLesen();
+    void setLand(const std::string& name);
+    void setRaucher(const std::string& wert);
+    void anführungszeichenSchließen();
+    [[nodiscard]] std::string Nachname() const;
+    [[nodiscard]] std::string Vorname() const;
     [[nodiscard]] addresses::Adresse gelesen() const;
     void zeige(const addresses::Adresse& adresse);
+
+    [[nodiscard]] bool vollständig();
+    [[nodiscard]] bool passtInFelder();
+    [[nodiscard]] bool darfAnlegen();
+    [[nodiscard]] bool speichern();
+    [[nodiscard]] bool istInland() const;
+    [[nodiscard]] bool landLöschen(std::int64_t id);
 
     start::GlobalState& g_;
     addresses::Adressliste& liste_;
     std::int64_t id_ = 0;
+    addresses::Adresse gezeigt_;       ///< as it was shown last; ID 0: nobody
+    std::string geprüftePLZ_;          ///< the code that the town stands for
+    std::vector<addresses::Ort> orte_; ///< behind the list of cboOrt
+    std::string freiesLand_;           ///< not in the list and not to go there
 };
 
 } // namespace reservations
