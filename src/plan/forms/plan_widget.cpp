@@ -56,7 +56,9 @@ std::optional<Plantaste> planKey(const QKeyEvent& event) {
 }
 
 /// A tool tip takes a guest's name for markup where it looks like it.
-QString plainToolTip(const QString& text) { return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text; }
+QString plainToolTip(const QString& text) {
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
+}
 
 } // namespace
 
