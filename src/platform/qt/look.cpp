@@ -41,7 +41,9 @@ QPushButton { background: #FFFFFF; border: 1px solid #D3DAE3; border-radius: 5px
 QPushButton:hover { border-color: #1F6FB5; color: #1F6FB5; }
 QPushButton:pressed { background: #E6EFF8; }
 QPushButton:focus { border-color: #1F6FB5; }
-QPushButton:disabled { color: #9AA7B6; background: #F3F5F8; }
+QPushButton[primary="true"] { background: #1F6FB5; border-color: #1F6FB5; color: #FFFFFF; }
+QPushButton[primary="true"]:hover, QPushButton[primary="true"]:focus { background: #175A94; color: #FFFFFF; }
+QPushButton:disabled, QPushButton[primary="true"]:disabled { color: #9AA7B6; background: #F3F5F8; border-color: #D3DAE3; }
 )";
 
 } // namespace

@@ -26,12 +26,17 @@ QString shownIn(const QPlainTextEdit& /*widget*/, std::string_view stored) { ret
 void setTextOf(QLineEdit& widget, const QString& text) { widget.setText(text); }
 void setTextOf(QPlainTextEdit& widget, const QString& text) { widget.setPlainText(text); }
 
+/// What cannot be typed into does not look as if it could.
+std::optional<services::Colour> backOf(const services::TextBox& control) {
+    return control.BackColor || !control.Locked ? control.BackColor : bgrOf(look::window);
+}
+
 template <typename Widget>
 void showBox(Widget& widget, services::TextBox& control) {
     const QSignalBlocker silent(widget);
     if (const QString shown = shownIn(widget, control.Text); textOf(widget) != shown) setTextOf(widget, shown);
     if (widget.isReadOnly() != control.Locked) widget.setReadOnly(control.Locked);
-    showFace(widget, {.back = control.BackColor, .fore = control.ForeColor, .bold = control.Bold});
+    showFace(widget, {.back = backOf(control), .fore = control.ForeColor, .bold = control.Bold});
     if (control.SelectAll) widget.selectAll();
     control.SelectAll = false;
     showControl(widget, control);

@@ -22,7 +22,7 @@ namespace reservations {
 namespace {
 
 /// An entry of a list may be longer than its box has room for.
-constexpr int shownCharacters = 10;
+constexpr int shownCharacters = 6;
 
 } // namespace
 
@@ -38,7 +38,8 @@ QPlainTextEdit* FormParts::lines(const char* name, services::TextBox& control, q
     auto* edit = new QPlainTextEdit(&window_);
     edit->setObjectName(qt::text(name));
     edit->setTabChangesFocus(true);
-    edit->setFixedHeight(2 * edit->fontMetrics().lineSpacing() + 14);
+    edit->setMinimumHeight(2 * edit->fontMetrics().lineSpacing() + 14);
+    edit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     binding_.bind(*edit, control, std::move(events));
     tabs_.append(edit);
     return edit;
@@ -141,13 +142,16 @@ Card makeCard(const QString& heading, QWidget* parent) {
     return {frame, grid};
 }
 
-QLabel* addCaption(const Card& card, int row, int column, const QString& caption, QWidget* field) {
+void addCaption(const Card& card, int row, int column, const QString& caption, QWidget* field) {
     auto* label = new QLabel(caption, card.frame);
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(field);
-    card.grid->addWidget(label, row, column);
-    return label;
+    const bool several = qobject_cast<QPlainTextEdit*>(field) != nullptr;
+    if (several) label->setContentsMargins(0, 4, 0, 0);
+    card.grid->addWidget(label, row, column, several ? Qt::AlignTop : Qt::Alignment());
 }
+
+void letGrow(const Card& card) { static_cast<QVBoxLayout*>(card.frame->layout())->setStretchFactor(card.grid, 1); }
 
 void addField(const Card& card, int row, int column, const QString& caption, QWidget* field, int columns) {
     addCaption(card, row, column, caption, field);

@@ -62,7 +62,9 @@ struct Card {
 [[nodiscard]] Card makeCard(const QString& heading, QWidget* parent);
 
 /// A caption in front of its field.
-QLabel* addCaption(const Card& card, int row, int column, const QString& caption, QWidget* field);
+void addCaption(const Card& card, int row, int column, const QString& caption, QWidget* field);
+/// The fields take the height that is left, where one of them has use for it.
+void letGrow(const Card& card);
 /// Caption and field; the field reaches over `columns` columns of the grid.
 void addField(const Card& card, int row, int column, const QString& caption, QWidget* field, int columns = 1);
 /// Widgets side by side; a null stands for the space that stretches.

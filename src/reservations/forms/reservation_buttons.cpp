@@ -24,6 +24,7 @@ QLayout* closingButtons(FormParts& parts, frmReservierung& form) {
     auto* smaller = parts.button("cmdKleiner", form.cmdKleiner, [&form] { form.cmdKleiner_Click(); });
     auto* store = parts.button("cmdReservieren", form.cmdReservieren, [&form] { form.cmdReservieren_Click(); });
     auto* storeAndClose = parts.button("cmdZu", form.cmdZu, [&form] { form.cmdZu_Click(); });
+    storeAndClose->setProperty("primary", true);
     auto* cancel = parts.button("cmdAbbrechen", form.cmdAbbrechen, [&form] { form.cmdAbbrechen_Click(); });
     return inRow({first, previous, next, last, larger, smaller, nullptr, store, storeAndClose, cancel});
 }

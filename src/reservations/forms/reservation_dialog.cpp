@@ -13,11 +13,17 @@ namespace reservations {
 
 namespace {
 
+constexpr int columnWidth = 415;
+
+/// The last one takes the height that is left.
 QBoxLayout* column(std::initializer_list<QWidget*> groups) {
     auto* column = new QVBoxLayout;
     column->setSpacing(8);
-    for (auto* group : groups)
+    for (auto* group : groups) {
+        group->setMinimumWidth(columnWidth);
         column->addWidget(group);
+    }
+    column->setStretchFactor(column->itemAt(column->count() - 1)->widget(), 1);
     return column;
 }
 
@@ -72,8 +78,7 @@ void ReservationDialog::refresh() {
 void ReservationDialog::fit() {
     large_ = form_.istGross();
     layout()->activate();
-    setMinimumSize(0, 0);
-    resize(minimumSizeHint().expandedTo(sizeHint()));
+    resize(minimumSizeHint());
 }
 
 void ReservationDialog::reject() {

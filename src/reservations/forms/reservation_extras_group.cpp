@@ -77,6 +77,7 @@ Card guest(FormParts& parts, frmReservierung& form) {
     addField(card, 2, 2, QStringLiteral("am"), plain("txtAdrWannErstellt", address.txtAdrWannErstellt));
     addField(card, 3, 0, QStringLiteral("Geändert von"), plain("txtAdrWG", address.txtAdrWG));
     addField(card, 3, 2, QStringLiteral("am"), plain("txtAdrWannGeändert", address.txtAdrWannGeändert));
+    letGrow(card);
     return card;
 }
 

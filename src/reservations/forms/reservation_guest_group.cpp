@@ -107,6 +107,7 @@ QWidget* noteGroup(FormParts& parts, frmReservierung& form) {
     addField(card, 1, 0, QStringLiteral("Bemerkung"),
              parts.lines("fldInfo", form.fldInfo, plainEvents(form, form.fldInfo)));
     card.grid->setColumnStretch(1, 1);
+    letGrow(card);
     return card.frame;
 }
 
