@@ -1,6 +1,11 @@
 #pragma once
 
+#include "addresses/address_list.h"
 #include "start/windows.h"
+
+#include <functional>
+#include <optional>
+#include <string>
 
 namespace start {
 struct GlobalState;
@@ -13,6 +18,8 @@ class QtWindows final : public start::Windows {
 public:
     /// The state that the windows work on; it must outlive them. To be set before the first window opens.
     void serve(start::GlobalState& state) { state_ = &state; }
+    /// Called whenever a stay was stored or deleted, with the form still open.
+    void onStaysChanged(std::function<void()> reload) { staysChanged_ = std::move(reload); }
 
     [[nodiscard]] bool has(start::Fenster fenster) const override;
     [[nodiscard]] start::PfadeErgebnis Datenbankpfade(const start::PfadeAnfrage& anfrage) override;
@@ -25,7 +32,12 @@ public:
     void Reservierungsnummern() override;
 
 private:
+    [[nodiscard]] addresses::Adressliste& addressList();
+
     start::GlobalState* state_ = nullptr;
+    std::function<void()> staysChanged_;
+    std::optional<addresses::Adressliste> addresses_; ///< read once per run, not for each form
+    std::string addressesOf_;                         ///< path of the file that they were read from
 };
 
 } // namespace app
