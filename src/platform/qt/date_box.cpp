@@ -4,6 +4,7 @@
 #include "platform/qt/look.h"
 
 #include <QCalendarWidget>
+#include <QFrame>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -33,6 +34,31 @@ QIcon sheet() {
     return picture;
 }
 
+enum class Towards { Left, Right };
+
+QIcon arrow(Towards where) {
+    QPixmap picture(16, 16);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(look::onAccent, 2));
+    const double tip = where == Towards::Left ? 5.5 : 10.5;
+    painter.drawPolyline(QPolygonF{{16 - tip, 3.5}, {tip, 8}, {16 - tip, 12.5}});
+    painter.end();
+    return picture;
+}
+
+void dress(QCalendarWidget& calendar) {
+    const std::pair<const char*, Towards> arrows[] = {{"qt_calendar_prevmonth", Towards::Left},
+                                                      {"qt_calendar_nextmonth", Towards::Right}};
+    for (const auto& [name, where] : arrows)
+        if (auto* button = calendar.findChild<QToolButton*>(QString::fromLatin1(name))) button->setIcon(arrow(where));
+    auto weekend = calendar.weekdayTextFormat(Qt::Sunday);
+    weekend.setForeground(look::weekend);
+    for (const auto day : {Qt::Saturday, Qt::Sunday})
+        calendar.setWeekdayTextFormat(day, weekend);
+}
+
 QDate dayIn(const QString& text) {
     const basic::Value typed(text.trimmed().toStdString());
     if (!basic::IsDate(typed)) return QDate::currentDate();
@@ -45,10 +71,8 @@ QCalendarWidget* calendarIn(QWidget& popup) {
     calendar->setLocale(QLocale(QLocale::German, QLocale::Germany));
     calendar->setFirstDayOfWeek(Qt::Monday);
     calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    auto weekend = calendar->weekdayTextFormat(Qt::Sunday);
-    weekend.setForeground(look::weekend);
-    for (const auto day : {Qt::Saturday, Qt::Sunday})
-        calendar->setWeekdayTextFormat(day, weekend);
+    calendar->setMinimumSize(270, 210);
+    dress(*calendar);
     return calendar;
 }
 
@@ -65,7 +89,7 @@ QPoint placeOf(const QWidget& popup, const QWidget& box) {
 } // namespace
 
 DateBox::DateBox(const QString& name, QWidget* parent)
-    : QWidget(parent), edit_(new QLineEdit(this)), button_(new QToolButton(this)), popup_(new QWidget(this, Qt::Popup)),
+    : QWidget(parent), edit_(new QLineEdit(this)), button_(new QToolButton(this)), popup_(new QFrame(this, Qt::Popup)),
       calendar_(calendarIn(*popup_)) {
     edit_->setObjectName(name);
     button_->setObjectName(name + QStringLiteral("Auswahl"));
@@ -79,6 +103,7 @@ DateBox::DateBox(const QString& name, QWidget* parent)
     row->setSpacing(2);
     row->addWidget(edit_, 1);
     row->addWidget(button_);
+    popup_->setFrameShape(QFrame::Box);
     auto* frame = new QVBoxLayout(popup_);
     frame->setContentsMargins(1, 1, 1, 1);
     frame->addWidget(calendar_);

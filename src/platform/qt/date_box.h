@@ -6,6 +6,7 @@
 
 class QCalendarWidget;
 class QDate;
+class QFrame;
 class QLineEdit;
 class QToolButton;
 
@@ -30,7 +31,7 @@ private:
 
     QLineEdit* edit_;
     QToolButton* button_;
-    QWidget* popup_;
+    QFrame* popup_;
     QCalendarWidget* calendar_;
     std::function<void(const QString&)> pick_;
 };

@@ -29,8 +29,11 @@ QPalette palette() {
     colours.setColor(QPalette::HighlightedText, look::onAccent);
     colours.setColor(QPalette::ToolTipBase, look::surface);
     colours.setColor(QPalette::ToolTipText, look::text);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        colours.setColor(QPalette::Disabled, role, look::borderStrong);
+    // What is locked is still read.
+    for (const auto role : {QPalette::WindowText, QPalette::Text})
+        colours.setColor(QPalette::Disabled, role, look::textMuted);
+    colours.setColor(QPalette::Disabled, QPalette::Base, look::window);
+    colours.setColor(QPalette::Disabled, QPalette::ButtonText, look::borderStrong);
     return colours;
 }
 

@@ -45,6 +45,7 @@ MatchPopup::MatchPopup(QLineEdit& box, const services::MatchBox& control, Choose
     completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     completer_->setMaxVisibleItems(rowsAtOnce);
     completer_->popup()->setObjectName(box.objectName() + QStringLiteral("Liste"));
+    completer_->popup()->setStyleSheet(QStringLiteral("QAbstractItemView::item { padding: 3px 2px; }"));
     connect(completer_, qOverload<const QModelIndex&>(&QCompleter::activated), this, [this](const QModelIndex& index) {
         const auto row = static_cast<std::size_t>(index.row());
         if (row < offered_.size()) choose_(services::Match(offered_[row]));

@@ -42,7 +42,8 @@ protected:
         s.g.dbHaupt = house.open("Lokal.mdb");
         s.g.einstellungen.ResGroesse = "klein";
         house.rooms(3);
-        meier = house.guest({.LastName = "Meier", .FirstName = "Eva", .City = "Kiel", .PostalCode = "24103"});
+        meier = house.guest(
+            {.LastName = "Meier", .FirstName = "Eva", .City = "Kiel", .PostalCode = "24103", .Country = "Deutschland"});
         house.guest({.LastName = "Möller", .FirstName = "Jan", .City = "Ulm"});
         house.guest({.LastName = "Schmidt", .FirstName = "Ute"});
     }
@@ -199,8 +200,10 @@ TEST_F(ReservationWindow, NoTextIsCutOff) {
     s.g.einstellungen.ResGroesse = "gross";
     openNew();
     for (auto* widget : dialog->findChildren<QWidget*>()) {
+        const auto* pressed = qobject_cast<QAbstractButton*>(widget);
+        const auto* pressed = qobject_cast<QAbstractButton*>(widget);
         const bool telling =
-            qobject_cast<QAbstractButton*>(widget) != nullptr || qobject_cast<QLabel*>(widget) != nullptr;
+            (pressed != nullptr && !pressed->text().isEmpty()) || qobject_cast<QLabel*>(widget) != nullptr;
         if (!telling || !widget->isVisible()) continue;
         EXPECT_GE(widget->width(), widget->minimumSizeHint().width()) << widget->objectName().toStdString();
         EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << widget->objectName().toStdString();
