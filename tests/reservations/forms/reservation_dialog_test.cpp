@@ -201,7 +201,6 @@ TEST_F(ReservationWindow, NoTextIsCutOff) {
     openNew();
     for (auto* widget : dialog->findChildren<QWidget*>()) {
         const auto* pressed = qobject_cast<QAbstractButton*>(widget);
-        const auto* pressed = qobject_cast<QAbstractButton*>(widget);
         const bool telling =
             (pressed != nullptr && !pressed->text().isEmpty()) || qobject_cast<QLabel*>(widget) != nullptr;
         if (!telling || !widget->isVisible()) continue;
