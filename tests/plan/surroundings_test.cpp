@@ -57,6 +57,15 @@ TEST_F(Surroundings, RenewalOfTheDataFilesWarnsAndEndsOnlyWhenItsProgramRuns) {
     }
 }
 
+TEST_F(Surroundings, TheSeasonCalendarOpensOverThePlan) {
+    bool opened = false;
+    program.windows.vorhanden.insert(start::Fenster::Saisonzeiten);
+    program.windows.beiSaisonzeiten = [&] { opened = true; };
+    umgebung().öffnen(start::Fenster::Saisonzeiten);
+    EXPECT_TRUE(opened);
+    EXPECT_EQ(closed, 0);
+}
+
 TEST_F(Surroundings, ToolsAreThoseOfTheProgramFolder) {
     EXPECT_FALSE(umgebung().hat("gebdaten.exe"));
     std::ofstream(program.file("gebdaten.exe")) << "x";
