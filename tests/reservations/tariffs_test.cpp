@@ -60,6 +60,7 @@ TEST(Tariffs, ARowThatIsNoNumberCanBeTakenOutAgain) {
     for (const auto* tarif : {"80", "nach Absprache"})
         insert(house, tarif);
     EXPECT_THAT(TarifeLesen(house.db()), ElementsAre());
+    EXPECT_FALSE(TarifAnlegen(house.db(), "80")); // found in spite of the list
     EXPECT_TRUE(TarifLöschen(house.db(), "nach Absprache"));
     EXPECT_THAT(TarifeLesen(house.db()), ElementsAre("80,00"));
 }
