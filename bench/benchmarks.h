@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/bench_house.h"
+#include "support/desk.h"
 #include "support/table.h"
 
 namespace bench {
@@ -20,5 +21,7 @@ void registerOverlapQuery(BenchHouse& house, RatioTable& table);
 void registerSingleRows(BenchHouse& house, RatioTable& table);
 void registerInserts(BenchHouse& house, RatioTable& table);
 void registerTranslation(BenchHouse& house, RatioTable& table);
+/// What the reservation form does most; prints how many statements a save and an opening run.
+void registerReservationForm(BenchHouse& house, Desk& desk, RatioTable& table);
 
 } // namespace bench

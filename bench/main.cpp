@@ -37,6 +37,16 @@ void measureHouse(bench::FlushCounter& flushes, const std::vector<std::string>& 
     runBenchmarks(arguments, table);
 }
 
+/// The reservation form in the same house.
+void measureForm(bench::FlushCounter& flushes, const std::vector<std::string>& arguments) {
+    const std::string folder = bench::preparedHouse(HERBERGO_BENCH_HOUSES, {});
+    bench::BenchHouse house(folder, flushes);
+    bench::Desk desk(folder);
+    bench::RatioTable table;
+    bench::registerReservationForm(house, desk, table);
+    runBenchmarks(arguments, table);
+}
+
 /// The plan query beside few and many old stays.
 void measureOldStays(bench::FlushCounter& flushes, const std::vector<std::string>& arguments) {
     bench::BenchHouse few(bench::preparedHouse(HERBERGO_BENCH_HOUSES, {.stays = 20'000}), flushes);
@@ -49,13 +59,16 @@ void measureOldStays(bench::FlushCounter& flushes, const std::vector<std::string
 
 } // namespace
 
-/// herbergo-bench [--old-stays] [--benchmark_...]: --old-stays measures the plan query in a small and in a huge house.
+/// herbergo-bench [--old-stays | --form] [--benchmark_...]: --old-stays measures the plan query in a small and in a
+/// huge house, --form the reservation form.
 int main(int argc, char** argv) {
     std::vector<std::string> arguments = benchmarkArguments(argc, argv);
     const bool oldStays = std::erase(arguments, "--old-stays") != 0;
+    const bool form = std::erase(arguments, "--form") != 0;
+    const auto measure = oldStays ? measureOldStays : form ? measureForm : measureHouse;
     bench::FlushCounter flushes;
     try {
-        oldStays ? measureOldStays(flushes, arguments) : measureHouse(flushes, arguments);
+        measure(flushes, arguments);
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
         return 1;

@@ -70,7 +70,23 @@ void addRooms(jet::Database& house) {
                              {"NeueNummer", std::to_string(101 + i)},
                              {"Bemerkungen", "Doppelzimmer mit Bad"},
                              {"AnzahlGästeDefault", 2},
-                             {"PreisDefault", 80.0}});
+                             {"PreisDefault", 80.0},
+                             {"PreisHauptsaison", 120.0},
+                             {"PreisNebensaison", 70.0}});
+    });
+    addRows(house, "tbZimmernummern", 1, [](jet::Recordset& rows, int) {
+        store::addRow(rows, {{"Zimmernummer", houseRooms + 1}, {"NeueNummer", "Vorläufig"}});
+    });
+}
+
+/// Summers and winters without a gap.
+void addSeasons(jet::Database& house) {
+    addRows(house, "tbSaisonzeiten", 40, [](jet::Recordset& rows, int i) {
+        const bool summer = i % 2 == 0;
+        const int year = 2015 + i / 2;
+        store::addRow(rows, {{"Saisonbezeichnung", summer ? "Hauptsaison" : "Nebensaison"},
+                             {"Start", basic::Date::fromYmd(year, summer ? 5 : 10, 1)},
+                             {"Ende", basic::Date::fromYmd(summer ? year : year + 1, summer ? 10 : 5, 1)}});
     });
 }
 
@@ -125,6 +141,7 @@ void fill(const std::string& folder, HouseSize size) {
     jet::Database house = workspace.OpenDatabase(folder + "/Lokal.mdb", false, false, store::openConnect());
     addRooms(house);
     addTypes(house);
+    addSeasons(house);
     addAddresses(house, size.addresses);
     const std::vector<Stay> stays = staysOf(size);
     addRows(house, "tblBelegung", size.stays,
