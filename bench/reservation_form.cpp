@@ -81,7 +81,8 @@ struct PlainSave {
           name(plain::prepare(house.plain, R"(SELECT "ID" FROM "tblBelegung" WHERE "Kürzel" = ?1)")),
           overlap(plain::prepare(
               house.plain,
-              R"(SELECT "ID" FROM "tblBelegung" WHERE "Zimmernummer" = ?1 AND "Gelöscht" = 0 AND "Von" < ?3 AND "Bis" > ?2)")),
+              R"(SELECT "ID" FROM "tblBelegung" WHERE "Zimmernummer" = ?1 AND "Gelöscht" = 0 AND ("Von" >= ?2 AND "Von" <= ?3
+ OR "Bis" >= ?2 AND "Bis" <= ?3 OR ?4 >= "Von" AND ?4 < "Bis" OR ?5 > "Von" AND ?5 < "Bis"))")),
           insert(plain::prepare(
               house.plain,
               R"(INSERT INTO "tblBelegung" ("Zimmernummer","Von","Bis","GastID","Kürzel","Belegungsart","AnzahlGäste",
@@ -117,7 +118,7 @@ struct PlainSave {
 private:
     void expectFree(const NewStay& stay, std::size_t own) const {
         constexpr jet::ExprType id[] = {jet::ExprType::Long};
-        plain::bind(overlap.get(), {stay.room, stay.von, stay.bis});
+        plain::bind(overlap.get(), {stay.room, stay.von + 1, stay.bis - 1, stay.von, stay.bis});
         require(plain::fetch(overlap.get(), id).count() == own, "the room is taken");
     }
 
