@@ -7,6 +7,7 @@
 #include "reservations/states.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace reservations {
 
@@ -110,8 +111,8 @@ void frmCollision::zeigeZeile(std::size_t zeile, const Eintrag* eintrag) {
 }
 
 frmCollision::Eintrag* frmCollision::eintragDer(int zeile) {
-    const auto platz = static_cast<std::size_t>(scrColli - 1 + zeile);
-    return platz < einträge_.size() ? &einträge_[platz] : nullptr;
+    const int platz = scrColli - 1 + zeile;
+    return platz < std::ssize(einträge_) ? &einträge_[static_cast<std::size_t>(platz)] : nullptr;
 }
 
 void frmCollision::scrColli_Change(int position) {
@@ -171,11 +172,11 @@ bool frmCollision::verbuchen() {
 bool frmCollision::verschieben(jet::Recordset& rs, const Eintrag& eintrag) {
     const Kollision& alt = eintrag.Alt;
     if (istAbgerechnet(rs)) {
-        nichtGespeichert(eintrag, "weil sie bereits abgerechnet wurde.");
+        nichtGespeichert(eintrag, ") konnte nicht gespeichert werden, weil sie bereits abgerechnet wurde.");
         return false;
     }
     if (alt.Zimmer == 0 && !darfWarten(eintrag)) {
-        nichtGespeichert(eintrag, "weil kein Zimmer mehr frei war.");
+        nichtGespeichert(eintrag, ") konnte nicht gespeichert werden, weil kein Zimmer mehr frei war.");
         return false;
     }
     rs.Edit();
@@ -192,9 +193,8 @@ bool frmCollision::darfWarten(const Eintrag& eintrag) {
                              {MsgButtons::YesNo, MsgIcon::Question}, g_.strTitel()) == MsgResult::Yes;
 }
 
-void frmCollision::nichtGespeichert(const Eintrag& eintrag, const std::string& weil) {
-    g_.dialogs.MsgBox("Die Reservierung (" + eintrag.Alt.Kürzel + ") konnte nicht gespeichert werden, " + weil,
-                      {.icon = MsgIcon::Exclamation}, g_.strTitel());
+void frmCollision::nichtGespeichert(const Eintrag& eintrag, const std::string& grund) {
+    g_.dialogs.MsgBox("Die Reservierung (" + eintrag.Alt.Kürzel + grund, {.icon = MsgIcon::Exclamation}, g_.strTitel());
 }
 
 void frmCollision::cmdÄndern_Click() { schließen(Kollisionsweg::Ändern, false); }

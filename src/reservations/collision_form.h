@@ -69,7 +69,7 @@ private:
     [[nodiscard]] bool verbuchen();
     [[nodiscard]] bool verschieben(jet::Recordset& rs, const Eintrag& eintrag);
     [[nodiscard]] bool darfWarten(const Eintrag& eintrag);
-    void nichtGespeichert(const Eintrag& eintrag, const std::string& weil);
+    void nichtGespeichert(const Eintrag& eintrag, const std::string& grund);
     void schließen(start::Kollisionsweg weg, bool gelöst);
 
     start::GlobalState& g_;

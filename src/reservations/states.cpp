@@ -71,8 +71,7 @@ struct Angebotsfragen {
     const std::function<void()>& geändert;
 
     [[nodiscard]] std::string beginn() const {
-        return "Es gibt noch Angebote, deren Anfangsdatum vor dem " + basic::Format(heute + 1, "dd.mm.yyyy") +
-               " beginnen";
+        return "Es gibt noch Angebote, deren Anfangsdatum vor dem " + basic::Format(heute + 1, "dd.mm.yyyy");
     }
     [[nodiscard]] Angebotsprüfung einzelne() const;
     [[nodiscard]] Angebotsprüfung inBlöcken() const;
@@ -83,8 +82,9 @@ Angebotsprüfung Angebotsfragen::einzelne() const {
     auto rs = überfällig(db, heute, "Null");
     if (rs.Eof()) return Angebotsprüfung::Weiter;
     const MsgResult antwort = dialogs.MsgBox(
-        beginn() + ". Wählen Sie 'Ja', wenn diese Angebote in die Warteposition geschoben werden sollen, wählen Sie "
-                   "'Nein', wenn die Angebote per Hand bearbeitet werden sollen.",
+        beginn() +
+            " beginnen. Wählen Sie 'Ja', wenn diese Angebote in die Warteposition geschoben werden sollen, wählen Sie "
+            "'Nein', wenn die Angebote per Hand bearbeitet werden sollen.",
         {MsgButtons::YesNo, MsgIcon::Question}, "Angebotskonflikte");
     if (antwort != MsgResult::Yes) return Angebotsprüfung::Halt;
     inWarteposition(rs);
@@ -103,8 +103,9 @@ Angebotsprüfung Angebotsfragen::inBlöcken() const {
     auto rs = überfällig(db, heute, "not  Null");
     if (rs.Eof()) return Angebotsprüfung::Weiter;
     const MsgResult antwort = dialogs.MsgBox(
-        beginn() + " und zu einer Blockbuchung gehören. Wählen Sie 'Ja', wenn diese Angebote endgültig gelöscht werden "
-                   "sollen, wählen Sie 'Nein', wenn die Angebote per Hand bearbeitet werden sollen.",
+        beginn() +
+            " beginnen und zu einer Blockbuchung gehören. Wählen Sie 'Ja', wenn diese Angebote "
+            "endgültig gelöscht werden sollen, wählen Sie 'Nein', wenn die Angebote per Hand bearbeitet werden sollen.",
         {MsgButtons::YesNo, MsgIcon::Critical, MsgDefault::Button2}, strTitel);
     if (antwort != MsgResult::Yes) return Angebotsprüfung::Halt;
     // Only "Nein" wants to see to them by hand; who draws back here leaves them as they are and goes on.
