@@ -50,6 +50,9 @@ class frmReservierung {
 public:
     /// State and services must outlive the form.
     frmReservierung(start::GlobalState& g, Formulardienste dienste, const start::ReservierungAnfrage& anfrage);
+    frmReservierung(const frmReservierung&) = delete;
+    frmReservierung& operator=(const frmReservierung&) = delete;
+    ~frmReservierung() = default;
 
     // event procedures, by topic
     // -- opening and closing (reservation_form_open.cpp)
@@ -236,6 +239,8 @@ private:
 
     // room, days and price
     [[nodiscard]] std::optional<basic::Date> datum(const services::TextBox& box) const;
+    /// None for what is no number and for amounts that nobody means.
+    [[nodiscard]] static std::optional<double> preisAus(std::string_view text);
     [[nodiscard]] double tarif() const; ///< 0 where the box holds no number
     [[nodiscard]] int Zimmernummer() const;
     [[nodiscard]] std::string zimmername() const;

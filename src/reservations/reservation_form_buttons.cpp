@@ -15,7 +15,7 @@ using services::MsgResult;
 } // namespace
 
 bool frmReservierung::ablehnen(const std::string& text, const std::string& titel) {
-    g_.dialogs.MsgBox(text, {.icon = MsgIcon::Information}, titel.empty() ? g_.strTitel() : titel);
+    g_.dialogs.MsgBox(text, {.icon = MsgIcon::Exclamation}, titel.empty() ? g_.strTitel() : titel);
     return false;
 }
 

@@ -89,8 +89,8 @@ void frmReservierung::beschriften() {
 void frmReservierung::breitenSetzen() {
     fldZimmer.Editable = true;
     cboTarif.Editable = true;
-    cboTarif.Keys.Only = Preiszeichen;
-    fldPreis.Keys.Only = Preiszeichen;
+    cboTarif.Keys.Only = fldPreis.Keys.Only = Preiszeichen;
+    cboTarif.MaxLength = fldPreis.MaxLength = 16;
     fldResTage.Locked = true;
     for (services::TextBox* box : {&fldVon, &fldBis, &txtResDatum}) {
         box->Keys.Only = Datumszeichen;

@@ -7,6 +7,7 @@
 #include "reservations/tariffs.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace reservations {
 
@@ -21,7 +22,13 @@ bool leer(std::string_view text) { return basic::Trim(text).empty(); }
 
 } // namespace
 
-double frmReservierung::tarif() const { return basic::parseNumber(cboTarif.Text).value_or(0); }
+std::optional<double> frmReservierung::preisAus(std::string_view text) {
+    constexpr double unsinnig = 1e12; // times the nights it must still be a number
+    const auto preis = basic::parseNumber(text);
+    return preis && std::abs(*preis) < unsinnig ? preis : std::nullopt;
+}
+
+double frmReservierung::tarif() const { return preisAus(cboTarif.Text).value_or(0); }
 
 void frmReservierung::setzeTarif(const std::string& text) {
     cboTarif.Text = text;
@@ -33,7 +40,7 @@ void frmReservierung::subSetPreis() {
         fldPreis.Text = "0,00";
         return;
     }
-    const auto preis = basic::parseNumber(cboTarif.Text);
+    const auto preis = preisAus(cboTarif.Text);
     if (!datum(fldVon) || !datum(fldBis) || !preis) return;
     subSetNächte();
     setzeTarif(basic::Format(*preis, Preisformat));
@@ -50,7 +57,7 @@ void frmReservierung::chFix_Click() {
 void frmReservierung::cboTarif_Change() { Feld_Change(); }
 
 Leave frmReservierung::cboTarif_LostFocus() {
-    if (!leer(cboTarif.Text) && !basic::parseNumber(cboTarif.Text)) {
+    if (!leer(cboTarif.Text) && !preisAus(cboTarif.Text)) {
         ablehnen("Bitte überprüfen Sie die Eingabe");
         return Leave::Stay;
     }
@@ -62,7 +69,7 @@ Leave frmReservierung::cboTarif_LostFocus() {
 void frmReservierung::fldPreis_Change() { Feld_Change(); }
 
 Leave frmReservierung::fldPreis_LostFocus() {
-    const auto preis = basic::parseNumber(fldPreis.Text);
+    const auto preis = preisAus(fldPreis.Text);
     if (!leer(fldPreis.Text) && !preis) {
         ablehnen("Bitte überprüfen Sie die Eingabe");
         return Leave::Stay;
@@ -93,7 +100,7 @@ double frmReservierung::Saisonpreis(bool melden) {
 
 /// The total is compared as it is shown: that is what is stored.
 void frmReservierung::saisonpreisErkennen() {
-    const double gesamt = basic::parseNumber(fldPreis.Text).value_or(0);
+    const double gesamt = preisAus(fldPreis.Text).value_or(0);
     const double saison = gesamt == 0 ? 0 : Saisonpreis(false);
     setzeSaisonpreis(saison != 0 && basic::Format(saison, Preisformat) == basic::Format(gesamt, Preisformat));
 }
@@ -135,7 +142,7 @@ void frmReservierung::tarifeFüllen() {
 }
 
 void frmReservierung::tarifMerken() {
-    const auto preis = basic::parseNumber(cboTarif.Text);
+    const auto preis = preisAus(cboTarif.Text);
     if (!preis) return;
     const std::string text = basic::Format(*preis, "###,##0.00");
     if (cboTarif.Items.indexOf(text) >= 0) return;
@@ -145,7 +152,7 @@ void frmReservierung::tarifMerken() {
 }
 
 void frmReservierung::tarifVergessen() {
-    const auto preis = basic::parseNumber(cboTarif.Text);
+    const auto preis = preisAus(cboTarif.Text);
     if (!preis) return;
     if (fragen("Soll dieser Eintrag aus der Liste entfernt werden?",
                {services::MsgButtons::YesNo, services::MsgIcon::Question, services::MsgDefault::Button2},

@@ -17,7 +17,6 @@ namespace {
 using services::MsgResult;
 
 constexpr int Höchstzahl = std::numeric_limits<std::int16_t>::max();
-constexpr auto Tagesformat = "dd.mm.yyyy";
 
 bool leer(std::string_view text) { return basic::Trim(text).empty(); }
 
@@ -99,9 +98,9 @@ bool frmReservierung::zahlenPassen() {
         return false;
     if (basic::Val(fldResTage.Text) > Höchstzahl)
         return ablehnen("Die Reservierung ist zu lang. Bitte überprüfen Sie das Anfangs- und Enddatum.");
-    if (!leer(cboTarif.Text) && !basic::parseNumber(cboTarif.Text))
+    if (!leer(cboTarif.Text) && !preisAus(cboTarif.Text))
         return ablehnen("Bitte überprüfen Sie die Eingabe im Feld 'Einzelpreis'.");
-    if (!leer(fldPreis.Text) && !basic::parseNumber(fldPreis.Text))
+    if (!leer(fldPreis.Text) && !preisAus(fldPreis.Text))
         return ablehnen("Bitte überprüfen Sie die Eingabe im Feld 'Gesamtpreis'.");
     if (!leer(txtResDatum.Text) && !datum(txtResDatum))
         return ablehnen("Bitte überprüfen Sie das Datum im Feld 'Reserviert am'.");
@@ -255,6 +254,7 @@ void frmReservierung::abgelegt(const Reservierung& reservierung) {
     if (reservierung.Zimmernummer == 0) gespeichert_.Zimmernummer = zimmer;
     fldID.Text = std::to_string(reservierung.ID);
     if (stand_.NeueReservierung && !block_) cmdL_schen.Enabled = true;
+    if (stand_.NeueReservierung) caption_ = "Reservierung";
     änderung_ = false;
     stand_.NeueReservierung = false;
 }
@@ -298,6 +298,7 @@ void frmReservierung::nachDemSpeichern() {
     prüfdatumNachziehen();
     stand_.InWarteposition = stand_.KürzelMeldungAus = false;
     zeigeAbrechnung();
+    zeigeBezahlt();
     basic::quietly([&] {
         if (adresse.GastID() != 0)
             addresses::AdresseBenutzen(g_.dbHaupt, adresse.GastID(), true, {g_.instanz.Nummer, g_.strTitel()});

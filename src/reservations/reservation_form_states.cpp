@@ -141,7 +141,8 @@ void frmReservierung::mnuStatus_Click() {
 }
 
 void frmReservierung::zeigeBezahlt() {
-    const auto bezahlt = ID() != 0 && dienste_.bezahlt ? dienste_.bezahlt(ID()) : std::nullopt;
+    const auto bezahlt = basic::quietly(
+        std::optional<bool>(), [&] { return ID() != 0 && dienste_.bezahlt ? dienste_.bezahlt(ID()) : std::nullopt; });
     cmdBezahlt.Enabled = bezahlt.has_value();
     cmdBezahlt.Caption = !bezahlt ? "Unbekannt" : *bezahlt ? "Bezahlt" : "Nicht Bezahlt";
     cmdBezahlt.BackColor = bezahlt.value_or(false) ? std::optional(look::Aktiv) : std::nullopt;

@@ -190,6 +190,41 @@ TEST_F(ReservationSave, ASaveOnTheWayThatAnotherStationOvertakesLosesItsRow) {
     EXPECT_EQ(house.count("tblBelegung"), 2);
 }
 
+TEST_F(ReservationSave, TheGuestIsStoredFirstAndStaysWhenTheStayIsRefused) {
+    struct Case {
+        MsgResult antwort;
+        std::vector<std::string> meldungen;
+        int gäste;
+    };
+    const std::string frage = "Möchten Sie eine neue Adresse mit diesen Daten anlegen?";
+    belegt(2, 20, 23, "schneller");
+    const auto vorher = house.count("Address");
+    for (const Case& c : {Case{MsgResult::Cancel, {frage, kNichtGespeichert}, 0},
+                          {MsgResult::OK, {frage, "Konflikte", kNichtGespeichert}, 1}}) {
+        frmReservierung form = neu();
+        form.adresse.cboAdresse.Text = "Ōé'\";😀 \u05D0";
+        form.adresse.cboAdresse_Change();
+        s.dialogs.press(c.antwort);
+        s.dialogs.acknowledge(static_cast<int>(c.meldungen.size()) - 1);
+        form.cmdReservieren_Click();
+        const auto texte = gefragt();
+        ASSERT_EQ(texte.size(), c.meldungen.size());
+        for (std::size_t i = 0; i < texte.size(); ++i)
+            EXPECT_THAT(texte[i], HasSubstr(c.meldungen[i]));
+        EXPECT_EQ(house.count("Address"), vorher + c.gäste);
+        EXPECT_EQ(house.count("tblBelegung"), 1);
+    }
+}
+
+TEST_F(ReservationSave, AFormThatWasNeverFilledStoresNothing) {
+    frmReservierung form = neu();
+    form.adresse.cboAdresse_Click(gast);
+    form.fldK_rzel.Text = "Text1";
+    antworten({MsgResult::OK});
+    form.cmdReservieren_Click();
+    EXPECT_EQ(house.count("tblBelegung"), 0);
+}
+
 // Collisions
 
 TEST_F(ReservationSave, EachWayOutOfACollision) {
