@@ -38,33 +38,21 @@ std::string gefaltet(std::string_view text) {
 
 } // namespace
 
-void Adressliste::einordnen(std::vector<std::string> schlüssel) const {
-    std::vector<std::pair<std::string, std::size_t>> ordnung;
-    ordnung.reserve(schlüssel.size());
-    for (std::size_t i = 0; i < schlüssel.size(); ++i)
-        ordnung.emplace_back(std::move(schlüssel[i]), i);
-    std::ranges::sort(ordnung);
-    for (std::size_t rang = 0; rang < ordnung.size(); ++rang)
-        einträge_[ordnung[rang].second].Rang = rang;
+void Adressliste::einlesen() const {
+    jet::Recordset rows = db_->OpenRecordset("SELECT ID, LastName, FirstName, PostalCode, City FROM Address "
+                                             "ORDER BY LastName, FirstName, City",
+                                             jet::RecordsetType::Snapshot);
+    einträge_.reserve(static_cast<std::size_t>(rows.RecordCount()));
+    for (; !rows.Eof(); rows.MoveNext()) {
+        std::string zeile =
+            Zeilentext(einzeilig(rows.At(1)), einzeilig(rows.At(2)), einzeilig(rows.At(3)), einzeilig(rows.At(4)));
+        if (zeile.empty()) continue;
+        std::string suchtext = gefaltet(zeile);
+        einträge_.push_back({rows.At(0).longOr(), std::move(zeile), std::move(suchtext), einträge_.size()});
+    }
     std::ranges::sort(einträge_, [](const Eintrag& a, const Eintrag& b) {
         return a.Suchtext != b.Suchtext ? a.Suchtext < b.Suchtext : a.Rang < b.Rang;
     });
-}
-
-void Adressliste::einlesen() const {
-    jet::Recordset rows = db_->OpenRecordset("SELECT ID, LastName, FirstName, PostalCode, City FROM Address",
-                                             jet::RecordsetType::Snapshot);
-    std::vector<std::string> schlüssel;
-    for (; !rows.Eof(); rows.MoveNext()) {
-        const std::string nachname = einzeilig(rows.At(1));
-        const std::string zeile =
-            Zeilentext(nachname, einzeilig(rows.At(2)), einzeilig(rows.At(3)), einzeilig(rows.At(4)));
-        if (zeile.empty()) continue;
-        einträge_.push_back({rows.At(0).longOr(), zeile, gefaltet(zeile), 0});
-        // the name by itself, so that Meier comes before Meier-Huber
-        schlüssel.push_back(basic::collationKey(nachname) + '\0' + basic::collationKey(zeile));
-    }
-    einordnen(std::move(schlüssel));
 }
 
 void Adressliste::lesen() const {
@@ -79,10 +67,10 @@ std::vector<services::Match> Adressliste::matches(std::string_view typed, std::s
     const auto beginn = [&](const Eintrag& eintrag) {
         return std::string_view(eintrag.Suchtext).substr(0, anfang.size());
     };
-    const auto treffer = std::ranges::equal_range(einträge_, std::string_view(anfang), {}, beginn);
+    const auto von = std::ranges::lower_bound(einträge_, std::string_view(anfang), {}, beginn);
+    const auto bis = std::ranges::upper_bound(einträge_, std::string_view(anfang), {}, beginn);
     std::vector<const Eintrag*> gefunden;
-    for (const Eintrag& eintrag : treffer)
-        gefunden.push_back(&eintrag);
+    std::for_each(von, bis, [&](const Eintrag& eintrag) { gefunden.push_back(&eintrag); });
     const auto erste = gefunden.begin() + static_cast<std::ptrdiff_t>(std::min(limit, gefunden.size()));
     std::ranges::partial_sort(gefunden, erste, {}, &Eintrag::Rang);
     std::vector<services::Match> matches;

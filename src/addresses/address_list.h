@@ -34,7 +34,6 @@ private:
     };
     void lesen() const;
     void einlesen() const;
-    void einordnen(std::vector<std::string> schlüssel) const;
 
     jet::Database* db_;
     mutable std::vector<Eintrag> einträge_; ///< by Suchtext, so that one beginning is one stretch

@@ -22,7 +22,7 @@ constexpr std::int64_t kKürzesterName = 3;
 
 /// The last name alone: the box may hold a whole line of the list. A known guest's own name may have a comma in it.
 std::string Adressteil::Nachname() const {
-    const std::string text = basic::Trim(cboAdresse.Text);
+    std::string text = basic::Trim(cboAdresse.Text);
     if (id_ != 0 && text == basic::Trim(gezeigt_.LastName)) return text;
     return basic::Trim(text.substr(0, text.find(',')));
 }
