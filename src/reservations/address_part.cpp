@@ -16,7 +16,6 @@
 
 namespace reservations {
 
-using services::Leave;
 using services::MsgButtons;
 using services::MsgDefault;
 using services::MsgIcon;
@@ -59,9 +58,9 @@ std::vector<Adressteil::Textfeld> Adressteil::Textfelder() {
     const auto feld = [](const char* spalte, const char* bezeichnung, auto& box) {
         return Textfeld{spalte, bezeichnung, &box.Text, &box, &box.MaxLength, &box.Keys};
     };
-    return {feld("LastName", "Name", cboAdresse),
+    return {feld("LastName", "Nachname", cboAdresse),
             feld("FirstName", "Vorname", txtVorname),
-            feld("CompanyName", "Name 2", txtName2),
+            feld("CompanyName", "Name 2 / Firma", txtName2),
             feld("Anrede", "Anrede", cboAnrede),
             feld("Address", "Straße", txtStrasse),
             feld("PostalCode", "PLZ", txtPLZ),
@@ -190,11 +189,6 @@ bool Adressteil::cboAdresse_KeyDown(services::Key key) {
 void Adressteil::anführungszeichenSchließen() {
     for (const Textfeld& feld : Textfelder())
         if (store::DoppZeichen(*feld.Text)) *feld.Text += '"';
-}
-
-Leave Adressteil::Feld_LostFocus() {
-    anführungszeichenSchließen();
-    return Leave::Go;
 }
 
 bool Adressteil::chStammkunde_KeyDown(services::Key key) {

@@ -28,7 +28,6 @@ public:
     void cboAdresse_Click(std::int64_t id);     ///< chosen from the list
     bool cboAdresse_KeyDown(services::Key key); ///< F2 deletes the address
     void Feld_Change() { Adress_nderung = true; } ///< any other field of this half
-    services::Leave Feld_LostFocus();             ///< any field: quotes in its text stand in pairs afterwards
     services::Leave txtPLZ_LostFocus();           ///< one place fills the town, several are offered
     void cboOrt_Click();                          ///< one of the offered places: its postal code too
     bool cboLand_KeyDown(services::Key key);      ///< F2 takes the country from the list

@@ -239,11 +239,13 @@ TEST(AddressPart, NamesOfAnyScriptComeBackAsTheyWere) {
     EXPECT_EQ(r.teil.txtBemerkAdr.Keys.filtered("a;b~c"), "abc");
 }
 
-TEST(AddressPart, OddQuotesAreClosedWhenAFieldIsLeft) {
+TEST(AddressPart, OddQuotesAreClosedBeforeTheyAreStored) {
     Rezeption r;
+    r.typeName("Gast");
     r.teil.txtName2.Text = "Gasthof \"Anker";
     r.teil.cboOrt.Text = "\"a\"";
-    EXPECT_EQ(r.teil.Feld_LostFocus(), Leave::Go);
+    r.dialogs.press(MsgResult::OK);
+    EXPECT_TRUE(r.teil.AdressSpeichern());
     EXPECT_EQ(r.teil.txtName2.Text, "Gasthof \"Anker\"");
     EXPECT_EQ(r.teil.cboOrt.Text, "\"a\"");
 }
