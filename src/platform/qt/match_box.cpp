@@ -69,6 +69,8 @@ void MatchPopup::offer() {
     auto* list = completer_->popup();
     const int wanted = list->sizeHintForColumn(0) + list->verticalScrollBar()->sizeHint().width() + 8;
     completer_->complete(QRect(0, 0, std::max(box_.width(), wanted), box_.height()));
+    // Return chooses what is current, and the first line would be: who types a new name wants none.
+    list->setCurrentIndex({});
 }
 
 void MatchPopup::close() { completer_->popup()->hide(); }

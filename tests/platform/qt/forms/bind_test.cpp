@@ -461,6 +461,18 @@ TEST(BoundMatches, OnlyAChoiceChoosesAndTypingTakesItBack) {
     EXPECT_EQ(w.events.back(), "leave");
 }
 
+TEST(BoundMatches, GoingOnChoosesNothingThatTheUserHasNotMarked) {
+    for (const auto key : {Qt::Key_Tab, Qt::Key_Return, Qt::Key_Enter}) {
+        MatchWindow w;
+        QTest::keyClicks(&w.edit, QStringLiteral("Gast 4711"));
+        ASSERT_NE(w.list(), nullptr);
+        QTest::keyClick(w.list(), key);
+        EXPECT_EQ(w.list(), nullptr);
+        EXPECT_EQ(w.guest.Chosen, 0);
+        EXPECT_EQ(w.guest.Text, "Gast 4711");
+    }
+}
+
 TEST(BoundMatches, WithoutAListItIsAPlainBox) {
     MatchWindow w;
     w.guest.Source = nullptr;
