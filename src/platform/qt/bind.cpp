@@ -93,14 +93,16 @@ bool passesOver(const QWidget& widget, const QEvent& event) {
 
 } // namespace
 
-Binding::Binding(QWidget& window) : QObject(&window) {}
+Binding::Binding(QWidget& window) : QObject(&window) { window.installEventFilter(this); }
+
+void Binding::showAll() {
+    const QScopedValueRollback showing(running_, true);
+    for (const Procedure& show : shows_)
+        show();
+}
 
 void Binding::refresh() {
-    {
-        const QScopedValueRollback showing(running_, true);
-        for (const Procedure& show : shows_)
-            show();
-    }
+    showAll();
     for (const Procedure& procedure : afterRefresh_)
         procedure();
 }
@@ -276,6 +278,7 @@ bool Binding::handled(QWidget& widget, const Watched& watched, QEvent& event) {
 }
 
 bool Binding::eventFilter(QObject* object, QEvent* event) {
+    if (object == parent() && event->type() == QEvent::WindowBlocked) showAll();
     const auto watched = watched_.find(object);
     if (watched == watched_.end()) return QObject::eventFilter(object, event);
     return handled(*static_cast<QWidget*>(object), watched->second, *event) || QObject::eventFilter(object, event);

@@ -50,7 +50,8 @@ struct MatchEvents {
 /// Ties the widgets of one window to the controls of its model. Showing a state fires no event and touches no widget
 /// that shows it already, so that the cursor stays where it was. Every event procedure is followed by a refresh. While
 /// a procedure runs (it may have a message box open) or a state is shown, no leave event is passed on: it is the box or
-/// the model that takes the focus away. Controls and widgets must outlive the binding; it belongs to its window.
+/// the model that takes the focus away. Behind a box that asks, the window shows what the model holds by then. Controls
+/// and widgets must outlive the binding; it belongs to its window.
 class Binding : public QObject {
 public:
     explicit Binding(QWidget& window);
@@ -84,6 +85,7 @@ private:
         Procedure doubleClick = {};
     };
 
+    void showAll();
     template <typename Widget>
     void bindText(Widget& widget, services::TextBox& control, const Procedure& change);
     void bindEdit(QComboBox& widget, services::ComboBox& control, const Procedure& change);

@@ -59,9 +59,10 @@ void dress(QCalendarWidget& calendar) {
         calendar.setWeekdayTextFormat(day, weekend);
 }
 
+/// Not valid where the text is no day.
 QDate dayIn(const QString& text) {
     const basic::Value typed(text.trimmed().toStdString());
-    if (!basic::IsDate(typed)) return QDate::currentDate();
+    if (!basic::IsDate(typed)) return {};
     const auto parts = basic::partsOf(basic::CDate(typed));
     return {parts.year, parts.month, parts.day};
 }
@@ -114,9 +115,15 @@ DateBox::DateBox(const QString& name, QWidget* parent)
     connect(calendar_, &QCalendarWidget::activated, this, [this](QDate day) { pick(day); });
 }
 
+QDate DateBox::dayToShow() const {
+    if (const QDate own = dayIn(edit_->text()); own.isValid()) return own;
+    const QDate before = before_ == nullptr ? QDate() : dayIn(before_->text());
+    return before.isValid() ? before.addDays(1) : QDate::currentDate();
+}
+
 void DateBox::openCalendar() {
     edit_->setFocus(Qt::MouseFocusReason);
-    calendar_->setSelectedDate(dayIn(edit_->text()));
+    calendar_->setSelectedDate(dayToShow());
     popup_->move(placeOf(*popup_, *edit_));
     popup_->show();
     calendar_->setFocus(Qt::PopupFocusReason);

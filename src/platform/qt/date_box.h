@@ -19,8 +19,10 @@ public:
     explicit DateBox(const QString& name, QWidget* parent = nullptr);
 
     [[nodiscard]] QLineEdit& edit() { return *edit_; }
-    /// Shows the calendar at the day that stands in the box, else at today's.
+    /// Shows the calendar at the day that stands in the box, else at the one after the box that it comes after, else at
+    /// today's.
     void openCalendar();
+    void comesAfter(const DateBox& other) { before_ = other.edit_; }
     /// The day is told as the text "dd.mm.yyyy".
     void onPick(std::function<void(const QString&)> pick) { pick_ = std::move(pick); }
 
@@ -28,8 +30,10 @@ public:
 
 private:
     void pick(QDate day);
+    [[nodiscard]] QDate dayToShow() const;
 
     QLineEdit* edit_;
+    const QLineEdit* before_ = nullptr;
     QToolButton* button_;
     QFrame* popup_;
     QCalendarWidget* calendar_;

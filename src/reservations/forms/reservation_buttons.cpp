@@ -22,6 +22,8 @@ QLayout* closingButtons(FormParts& parts, frmReservierung& form) {
     auto* last = parts.button("cmdLetzter", form.cmdLetzter, [&form] { form.cmdLetzter_Click(); });
     auto* larger = parts.button("cmdGroesser", form.cmdGroesser, [&form] { form.cmdGroesser_Click(); });
     auto* smaller = parts.button("cmdKleiner", form.cmdKleiner, [&form] { form.cmdKleiner_Click(); });
+    for (auto* size : {larger, smaller})
+        size->setFocusPolicy(Qt::NoFocus); // the one that was pressed vanishes, the user stays where he was
     auto* store = parts.button("cmdReservieren", form.cmdReservieren, [&form] { form.cmdReservieren_Click(); });
     auto* storeAndClose = parts.button("cmdZu", form.cmdZu, [&form] { form.cmdZu_Click(); });
     storeAndClose->setProperty("primary", true);

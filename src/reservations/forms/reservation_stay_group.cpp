@@ -32,16 +32,17 @@ void addRoom(const Card& card, FormParts& parts, frmReservierung& form) {
 }
 
 void addDays(const Card& card, FormParts& parts, frmReservierung& form) {
-    addField(card, 2, 0, QStringLiteral("Anreise"),
-             parts.date("fldVon", form.fldVon,
-                        {.change = [&form] { form.fldVon_Change(); },
-                         .leave = [&form] { return form.fldVon_LostFocus(); },
-                         .key = [&form](Key key) { return form.fldVon_KeyDown(key); }}));
-    addField(card, 2, 2, QStringLiteral("Abreise"),
-             parts.date("fldBis", form.fldBis,
-                        {.change = [&form] { form.fldBis_Change(); },
-                         .leave = [&form] { return form.fldBis_LostFocus(); },
-                         .key = [&form](Key key) { return form.fldBis_KeyDown(key); }}));
+    auto* arrival = parts.date("fldVon", form.fldVon,
+                               {.change = [&form] { form.fldVon_Change(); },
+                                .leave = [&form] { return form.fldVon_LostFocus(); },
+                                .key = [&form](Key key) { return form.fldVon_KeyDown(key); }});
+    auto* departure = parts.date("fldBis", form.fldBis,
+                                 {.change = [&form] { form.fldBis_Change(); },
+                                  .leave = [&form] { return form.fldBis_LostFocus(); },
+                                  .key = [&form](Key key) { return form.fldBis_KeyDown(key); }});
+    departure->comesAfter(*arrival);
+    addField(card, 2, 0, QStringLiteral("Anreise"), arrival);
+    addField(card, 2, 2, QStringLiteral("Abreise"), departure);
 }
 
 void addGuests(const Card& card, FormParts& parts, frmReservierung& form) {

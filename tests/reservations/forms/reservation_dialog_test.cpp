@@ -192,6 +192,7 @@ TEST_F(ReservationWindow, TakesTheSizeOfItsTwoForms) {
     altKey(Qt::Key_K);
     EXPECT_FALSE(find<QWidget>(*dialog, "frZusatz").isVisible());
     EXPECT_EQ(dialog->size(), small);
+    EXPECT_TRUE(edit("cboAdresse").hasFocus());
     EXPECT_LE(small.width(), 1014);
     EXPECT_LE(small.height(), 650);
 }

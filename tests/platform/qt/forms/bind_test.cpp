@@ -16,9 +16,11 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -198,6 +200,22 @@ TEST(Binding, AccessKeyLeavesTheBoxBeforeItPressesTheButton) {
     EXPECT_EQ(f.leaves, 2);
     QTest::keyClick(&f.button, Qt::Key_Return);
     EXPECT_EQ(f.clicks, 2);
+}
+
+TEST(Binding, WindowShowsBehindABoxWhatTheBoxTellsOf) {
+    TwoBoxes f;
+    QString behind;
+    f.binding.run([&] {
+        f.second.Text = "neu";
+        QMessageBox box(&f);
+        QTimer::singleShot(0, &box, [&] {
+            behind = f.secondEdit.text();
+            box.accept();
+        });
+        box.exec();
+    });
+    EXPECT_EQ(behind, QStringLiteral("neu"));
+    EXPECT_EQ(f.leaves, 0);
 }
 
 TEST(Binding, FocusMovedByTheModelLeavesNothing) {
@@ -524,6 +542,23 @@ TEST(DateBox, PickingADayTypesItAndLeaves) {
     EXPECT_EQ(w.events, (std::vector<std::string>{"change 15.06.2026", "leave"}));
     EXPECT_EQ(w.box.edit().text(), QStringLiteral("15.06.2026"));
     EXPECT_TRUE(w.box.edit().hasFocus());
+}
+
+TEST(DateBox, EmptyOneOpensItsCalendarBehindTheDayBefore) {
+    DateWindow w;
+    services::TextBox departure;
+    auto& later = w.add<DateBox>(QStringLiteral("fldBis"));
+    bindDate(w.binding, later, departure, {});
+    later.comesAfter(w.box);
+    w.binding.refresh();
+    const auto* calendar = later.findChild<QCalendarWidget*>();
+    for (const auto& [stands, shown] : {std::pair("", QDate(2026, 6, 15)), {"20.6.26", QDate(2026, 6, 20)}}) {
+        departure.Text = stands;
+        w.binding.refresh();
+        QTest::keyClick(&later.edit(), Qt::Key_Down, Qt::AltModifier);
+        EXPECT_EQ(calendar->selectedDate(), shown);
+        QTest::keyClick(later.findChild<QCalendarWidget*>(), Qt::Key_Escape);
+    }
 }
 
 TEST(DateBox, EscapeInTheCalendarChangesNothing) {
