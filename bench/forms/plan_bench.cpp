@@ -1,14 +1,18 @@
-// herbergo-plan-bench: from a changed date to the filled grid and to the painted plan, and from the start of a process
-// to its first picture.
+// herbergo-plan-bench: from a changed date to the filled grid and to the painted plan, from a move of the mouse to what
+// it shows, and from the start of a process to its first picture.
 #include "forms/process_cost.h"
 #include "plan/forms/main_window.h"
+#include "plan/forms/plan_widget.h"
+#include "plan/reservation_finder.h"
 #include "platform/jet/workspace.h"
 #include "platform/qt/look.h"
 #include "store/database_files.h"
 #include "store/new_house.h"
 #include "support/house.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QMouseEvent>
 #include <QPushButton>
 
 #include <algorithm>
@@ -18,20 +22,44 @@
 #include <filesystem>
 #include <functional>
 #include <iostream>
+#include <stdexcept>
 
 namespace {
 
 namespace fs = std::filesystem;
 
+/// The reservation form is there, so that stays can be drawn, but nothing opens.
+struct NoWindows final : start::Windows {
+    [[nodiscard]] bool has(start::Fenster fenster) const override { return fenster == start::Fenster::Reservierung; }
+    [[nodiscard]] start::PfadeErgebnis Datenbankpfade(const start::PfadeAnfrage&) override { return {}; }
+    [[nodiscard]] start::Adresswahl Adresshilfe(const start::AdresshilfeAnfrage&) override { return {}; }
+    void Einstellungen(const start::EinstellungenAnfrage&) override {}
+    int Reservierung(const start::ReservierungAnfrage&) override { return 0; }
+    [[nodiscard]] start::KollisionErgebnis Kollision(const start::KollisionAnfrage&) override { return {}; }
+    void Saisonzeiten() override {}
+    void Saisonpreise(int) override {}
+    void Reservierungsnummern() override {}
+};
+
 /// A house on the screen of a front desk.
 struct Desk {
     Desk(const std::string& folder, plan::PlanEinstellungen settings)
         : db(workspace.OpenDatabase(folder + "/Lokal.mdb", false, false, store::openConnect())), source(db),
-          raster(settings, masterdata::ZimmerEinlesen(db), source, clock), form(raster, clock) {
+          raster(settings, masterdata::ZimmerEinlesen(db), source, clock), form(raster, clock, surroundings()) {
         form.Form_Load();
     }
 
+    /// The log is kept, as in the program.
+    plan::Umgebung surroundings() {
+        plan::Umgebung all;
+        all.windows = &windows;
+        all.db = &db;
+        all.Zeitlogdatei = HERBERGO_BENCH_HOUSES "/Zeitlog.txt";
+        return all;
+    }
+
     services::FixedClock clock{bench::today()};
+    NoWindows windows;
     jet::Workspace workspace{clock};
     jet::Database db;
     plan::PlanAusDatenbank source;
@@ -90,11 +118,45 @@ private:
     int day_ = 0;
 };
 
+struct Cell {
+    int line;
+    int column;
+};
+using Cells = std::vector<Cell>;
+
+Cells cellsWithBars(const plan::Planraster& raster) {
+    Cells cells;
+    for (int line = 1; line < raster.Wartezeile(); ++line)
+        for (const auto& bar : raster.BalkenDerZeile(line))
+            if (!bar.Überlauf) cells.push_back({line, bar.VonSpalte});
+    return cells;
+}
+
+/// Two free cells side by side.
+Cells freeCells(const plan::Planraster& raster) {
+    for (int line = 1; line < raster.Wartezeile(); ++line)
+        for (int column = 1; column < raster.AnzahlTage(); ++column)
+            if (raster.istFrei(raster.Zelle(line, column)) && raster.istFrei(raster.Zelle(line, column + 1)))
+                return {{line, column}, {line, column + 1}};
+    return {};
+}
+
+/// The two statements behind a cell that the pointer comes to, and nothing else.
+void askPlainly(Desk& desk, Cell cell) {
+    const auto found =
+        plan::UnterMausImZimmer(desk.db, desk.raster.ErsteZeile() + cell.line - 1, desk.raster.Datum(cell.column));
+    if (!found.empty()) (void)plan::GastLesen(desk.db, found.front().GastID);
+}
+
 int barsInView(const plan::Planraster& raster) {
     std::size_t bars = 0;
     for (int line = 1; line <= raster.Wartezeile(); ++line)
         bars += raster.BalkenDerZeile(line).size();
     return static_cast<int>(bars);
+}
+
+void printMicro(const char* what, Times times, double target) {
+    std::printf("  %-34s %7.3f ms, processor %7.3f ms (target %.1f)\n", what, times.wall, times.processor, target);
 }
 
 void printRow(const char* what, Times times, double target) {
@@ -140,6 +202,40 @@ std::vector<House> houses() {
             {"sample house", sample.string(), {}, 5, 16}};
 }
 
+/// What the mouse costs: the pointer in a cell, from bar to bar, and a stay that is drawn by one cell and painted.
+void measureMouse(const House& house) {
+    constexpr int runs = 401;
+    Desk desk(house.folder, house.settings);
+    plan::MainWindow window(desk.form);
+    show(window);
+    auto& widget = *window.findChild<plan::PlanWidget*>(QStringLiteral("plan"));
+    const auto move = [&](QPoint point, Qt::MouseButtons held) {
+        QMouseEvent event(QEvent::MouseMove, point, widget.mapToGlobal(point), Qt::NoButton, held, {});
+        QApplication::sendEvent(&widget, &event);
+    };
+    const Cells bars = cellsWithBars(desk.raster);
+    const Cells free = freeCells(desk.raster);
+    if (bars.size() < 2 || free.size() < 2) throw std::runtime_error("the house has no place to measure the mouse");
+    const auto centre = [&](Cell cell) { return widget.places().cell(cell.line, cell.column).center(); };
+    int step = 0;
+    move(centre(bars[0]), {});
+    printMicro("mouse move within a cell", measured(runs, [&] { move(centre(bars[0]) + QPoint(++step % 2, 0), {}); }),
+               0.1);
+    const auto entered = measured(runs, [&] { move(centre(bars[++step * 37U % bars.size()]), {}); });
+    printMicro("cell with a bar entered", entered, 2);
+    const auto query = measured(runs, [&] { askPlainly(desk, bars[++step * 37U % bars.size()]); });
+    std::printf("  its statements alone %.3f ms: %.2f times\n", query.processor, entered.processor / query.processor);
+    window.findChild<QAbstractButton*>(QStringLiteral("optBelArt1"))->click();
+    desk.form.MouseDown(free[0].line, free[0].column);
+    printMicro("stay drawn by one cell and painted",
+               measured(runs,
+                        [&] {
+                            move(centre({free[0].line, free[0].column + ++step % 2}), Qt::LeftButton);
+                            QApplication::processEvents();
+                        }),
+               5);
+}
+
 void measureStart(const House& house) {
     constexpr int runs = 11;
     const auto ours = bench::costOfRunning({"--show", house.folder, std::to_string(house.settings.AnzahlZimmer),
@@ -172,6 +268,7 @@ void run(const std::vector<std::string>& arguments) {
     if (!arguments.empty() && arguments[0] == "--show") return showPlan(arguments);
     for (const auto& house : houses()) {
         measure(house);
+        measureMouse(house);
         measureStart(house);
     }
 }

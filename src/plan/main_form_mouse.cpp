@@ -22,14 +22,14 @@ std::string Kürzeltext(const tplZelle& zelle) {
     return zelle.Kuerzel + (zelle.Checked ? "/CH/" : "/") + std::to_string(zelle.Gaeste);
 }
 
-std::string Hilfe(const std::string& nummer, const std::string& von, const std::string& bis, const Gastname& gast) {
-    return "Reservierung" + nummer + " vom: " + von + " bis: " + bis + "  von " + gast.FirstName + " " + gast.LastName +
-           ", " + gast.City + " " + "Sie können die Reservierung mit der rechten Maustaste öffnen.";
+std::string Hilfe(const std::string& anfang, const std::string& von, const std::string& bis, const Gastname& gast) {
+    return anfang + von + " bis: " + bis + "  von " + gast.FirstName + " " + gast.LastName + ", " + gast.City + " " +
+           "Sie können die Reservierung mit der rechten Maustaste öffnen.";
 }
 
 /// The lighter way: what the cell itself knows.
 std::string HilfeAusZelle(const tplZelle& zelle) {
-    return Hilfe("", zelle.Von, zelle.Bis, {zelle.Vorname, zelle.Nachname, ""});
+    return Hilfe("Reservierung vom: ", zelle.Von, zelle.Bis, {zelle.Vorname, zelle.Nachname, ""});
 }
 
 /// Keeps events out while one is handled.
@@ -149,7 +149,7 @@ std::string frmMain::Hilfetext() const {
     log_->Stufe("Überhänge eingefüllt  ");
     const auto gast = GastLesen(*umgebung_.db, wartend ? zelle.GastID : fund.GastID);
     log_->Stufe("Felder gefüllt  ");
-    return Hilfe(" (" + fund.BelegNummer_eigen + ")", fund.Von, wartend ? zelle.Bis : fund.Bis,
+    return Hilfe("Reservierung (" + fund.BelegNummer_eigen + ") vom: ", fund.Von, wartend ? zelle.Bis : fund.Bis,
                  gast.value_or(Gastname{}));
 }
 

@@ -244,7 +244,7 @@ QBoxLayout* MainWindow::scrollColumn() {
     auto* last = stepButton("cmdLetzter", Qt::DownArrow, tr("Zum letzten Zimmer"));
     scrollBar_->setObjectName(QStringLiteral("scrollBar"));
     scrollBar_->setFocusPolicy(Qt::StrongFocus);
-    auto* shortcut = new QShortcut(QKeySequence(QStringLiteral("Alt+S")), this);
+    auto* shortcut = new QShortcut(QKeySequence::mnemonic(QStringLiteral("&Scrollbar")), this);
     shortcut->setObjectName(QStringLiteral("cmdScrollBar"));
     connect(shortcut, &QShortcut::activated, scrollBar_, [this] { scrollBar_->setFocus(Qt::ShortcutFocusReason); });
     connect(first, &QToolButton::clicked, this, [this] { run([this] { form_.cmdErster_Click(); }); });
