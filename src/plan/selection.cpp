@@ -32,6 +32,8 @@ bool Auswahlzeichnung::isOwn(int spalte) const {
 
 bool Auswahlzeichnung::extendTo(int spalte) {
     if (zeile() == 0) return false;
+    // The last column may show a stay of the next line, from before the plan: it is in nobody's way.
+    if (spalte == raster_->AnzahlTage() && raster_->Bild(raster_->Zelle(zeile(), spalte)).Überlauf) --spalte;
     const auto vorher = platz();
     const auto ziel = std::max(raster_->Datum(spalte), auswahl().Von);
     // A quick pointer jumps over cells: the stay ends before the first one that is taken.

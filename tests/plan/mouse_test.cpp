@@ -335,6 +335,19 @@ TEST(Drawing, PlanGoesOnUnderTheStayAtTheLastColumn) {
     EXPECT_EQ(t.form().MouseHold(), Wirkung::Nichts);
 }
 
+TEST(Drawing, StayOfTheNextLineInTheLastColumnIsInNobodysWay) {
+    Tisch t;
+    t.house.stay({.Zimmernummer = 3, .Von = day(10, 6), .Bis = day(18, 6), .Belegungsart = 1});
+    t.wähleArt();
+    const auto start = t.raster().PlanStart();
+    ASSERT_FALSE(t.frei(2, 14));
+    t.ziehe(2, 12, 14);
+    EXPECT_EQ(t.raster().PlanStart(), start + 1);
+    t.form().MouseHold();
+    t.form().MouseUp();
+    EXPECT_EQ(t.anfragen.at(0).Bis, start + 13);
+}
+
 TEST(Drawing, RefreshMeanwhileKeepsTheStay) {
     Tisch t;
     t.wähleArt();

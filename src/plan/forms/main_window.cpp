@@ -116,7 +116,10 @@ void MainWindow::connectPlan() {
 void MainWindow::connectMouse() {
     plan_->onMove = [this](int line, int column, Maustaste held) { apply(form_.MouseMove(line, column, held)); };
     plan_->onPress = [this](int line, int column) { apply(form_.MouseDown(line, column)); };
-    plan_->onHold = [this] { apply(form_.MouseHold()); };
+    plan_->onHold = [this] {
+        apply(form_.MouseHold());
+        return form_.AuswahlAktiv();
+    };
     plan_->onRelease = [this] { apply(form_.MouseUp()); };
     plan_->onRest = [this] {
         form_.MouseRest();

@@ -81,7 +81,7 @@ PlanWidget::PlanWidget(const Planraster& grid, QWidget* parent)
         if (onRest) onRest();
     });
     connect(&hold_, &QTimer::timeout, this, [this] {
-        if (onHold) onHold();
+        if (!onHold || !onHold()) hold_.stop();
     });
     refresh();
 }
@@ -116,8 +116,11 @@ void PlanWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     PlanPainter(painter, grid_, places_, event->rect()).paint(rooms_);
     if (!cursor_) return;
-    painter.setPen(QPen(qt::look::alert, 3));
-    painter.drawRect(cursorRect().adjusted(1, 1, -2, -2));
+    // Seen on every colour of a cell.
+    painter.setPen(QPen(qt::look::surface, 4));
+    painter.drawRect(cursorRect().adjusted(2, 2, -2, -2));
+    painter.setPen(QPen(qt::look::alert, 2));
+    painter.drawRect(cursorRect().adjusted(1, 1, -1, -1));
 }
 
 void PlanWidget::resizeEvent(QResizeEvent* event) { places_ = PlanGeometry(grid_, event->size(), places_.widths()); }
@@ -153,7 +156,8 @@ void PlanWidget::mouseReleaseEvent(QMouseEvent* event) {
 void PlanWidget::keyPressEvent(QKeyEvent* event) {
     const auto key = planKey(*event);
     const auto shift = event->modifiers().testFlag(Qt::ShiftModifier) ? Umschalt::Gedrückt : Umschalt::Los;
-    if (!key || !onKey || !onKey(*key, shift)) QWidget::keyPressEvent(event);
+    if (!key || !onKey || !onKey(*key, shift)) return QWidget::keyPressEvent(event);
+    QToolTip::hideText(); // of the place where the pointer rests
 }
 
 /// The menu is opened by the press itself, of the button or of the key.

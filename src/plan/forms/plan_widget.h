@@ -34,8 +34,8 @@ public:
     std::function<void(int line, int column, Maustaste held)> onMove;
     std::function<void(int line, int column)> onPress;
     std::function<void()> onRelease;
-    /// The left button is held and the pointer rests, again and again.
-    std::function<void()> onHold;
+    /// The left button is held, again and again. Answers whether that still matters.
+    std::function<bool()> onHold;
     /// The pointer has rested for a moment.
     std::function<void()> onRest;
     std::function<void(int line)> onRoom;
