@@ -217,20 +217,21 @@ void measureMouse(const House& house) {
     const Cells free = freeCells(desk.raster);
     if (bars.size() < 2 || free.size() < 2) throw std::runtime_error("the house has no place to measure the mouse");
     const auto centre = [&](Cell cell) { return widget.places().cell(cell.line, cell.column).center(); };
-    int step = 0;
+    std::size_t step = 0;
     move(centre(bars[0]), {});
-    printMicro("mouse move within a cell", measured(runs, [&] { move(centre(bars[0]) + QPoint(++step % 2, 0), {}); }),
-               0.1);
-    const auto entered = measured(runs, [&] { move(centre(bars[++step * 37U % bars.size()]), {}); });
+    printMicro("mouse move within a cell",
+               measured(runs, [&] { move(centre(bars[0]) + QPoint(static_cast<int>(++step % 2), 0), {}); }), 0.1);
+    const auto entered = measured(runs, [&] { move(centre(bars[++step * 37 % bars.size()]), {}); });
     printMicro("cell with a bar entered", entered, 2);
-    const auto query = measured(runs, [&] { askPlainly(desk, bars[++step * 37U % bars.size()]); });
+    const auto query = measured(runs, [&] { askPlainly(desk, bars[++step * 37 % bars.size()]); });
     std::printf("  its statements alone %.3f ms: %.2f times\n", query.processor, entered.processor / query.processor);
     window.findChild<QAbstractButton*>(QStringLiteral("optBelArt1"))->click();
     desk.form.MouseDown(free[0].line, free[0].column);
+    if (!desk.form.AuswahlAktiv()) throw std::runtime_error("no stay is being drawn");
     printMicro("stay drawn by one cell and painted",
                measured(runs,
                         [&] {
-                            move(centre({free[0].line, free[0].column + ++step % 2}), Qt::LeftButton);
+                            move(centre(free[++step % 2]), Qt::LeftButton);
                             QApplication::processEvents();
                         }),
                5);

@@ -184,6 +184,24 @@ TEST_F(MainForm, EntriesLeadWhereTheySay) {
     EXPECT_TRUE(main.Endegewünscht());
 }
 
+TEST_F(MainForm, StatisticsWaitForOffersPastDue) {
+    dateien = {"auswerter.exe"};
+    bool weiter = false;
+    auto rest = umgebung();
+    rest.AngebotePrüfen = [&](const std::function<void()>& geändert) {
+        plan.quelle.rows = {{.Von = tag(1), .Bis = tag(3), .Zimmernummer = 1, .BelegungsID = 2, .ID = 1}};
+        geändert();
+        return weiter;
+    };
+    frmMain main(plan.raster, plan.clock, rest);
+    main.Menu_Click("mnuStatistik");
+    EXPECT_TRUE(done.empty());
+    EXPECT_EQ(plan.raster.AnzahlReservierungen(), 1) << "the plan shows what the questions have changed";
+    weiter = true;
+    main.Menu_Click("mnuStatistik");
+    EXPECT_THAT(done, ElementsAre("auswerter.exe Instanz:0"));
+}
+
 TEST_F(MainForm, DateJumpTakesAnyDateAndIgnoresTheRest) {
     auto main = form();
     const auto jump = [&](std::optional<std::string> answer) {

@@ -1,9 +1,11 @@
 #include "plan/surroundings.h"
 
+#include "start/parameters.h"
 #include "support/test_start.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 
 namespace plan {
@@ -72,6 +74,55 @@ TEST_F(Surroundings, ToolsAreThoseOfTheProgramFolder) {
     EXPECT_TRUE(umgebung().hat("gebdaten.exe"));
     EXPECT_TRUE(umgebung().has(start::Fenster::Datenbankpfade));
     EXPECT_FALSE(umgebung().has(start::Fenster::Artikel));
+}
+
+TEST_F(Surroundings, WebProgramIsSearchedOnceAndThenKnown) {
+    program.dialogs.press(services::MsgResult::No);
+    umgebung().Internet();
+    EXPECT_EQ(program.dialogs.last().text,
+              "Die Datei 'netzlader.exe' konnte nicht gefunden werden. Möchten Sie selber nach ihr suchen?");
+    program.dialogs.press(services::MsgResult::Yes);
+    program.dialogs.type(std::nullopt);
+    umgebung().Internet();
+    EXPECT_EQ(program.setting("Internet"), "");
+    const auto elsewhere = program.file("anderswo.exe");
+    std::ofstream(elsewhere) << "x";
+    program.dialogs.press(services::MsgResult::Yes);
+    program.dialogs.type(elsewhere);
+    umgebung().Internet();
+    EXPECT_EQ(program.setting("Internet"), elsewhere);
+    umgebung().Internet();
+    EXPECT_EQ(program.dialogs.asked().size(), 5U) << "known now";
+    std::filesystem::remove(elsewhere);
+    program.dialogs.press(services::MsgResult::No);
+    umgebung().Internet(); // gone again
+}
+
+TEST_F(Surroundings, NewHeadingGoesToThePlanAndToTheListsThatCarryTheSameWord) {
+    program.house();
+    auto& db = program.g.dbHaupt;
+    EXPECT_FALSE(umgebung().Beschriften(Planbeschriftung::Zimmerspalte, "Wohnung")) << "there are no data files";
+    db = program.open(program.file("Lokal.mdb"));
+    program.g.einstellungen.Beschriftungen = {"Reserviert von:", "Zimmer"};
+    start::SatzSchreiben(db, "Spaltenbeschriftung", {{"F7", "Land"}, {"F8", "alt"}, {"F11", "Personen"}});
+    EXPECT_TRUE(umgebung().Beschriften(Planbeschriftung::Belegungsrahmen, "Gebucht"));
+    EXPECT_TRUE(umgebung().Beschriften(Planbeschriftung::Zimmerspalte, "Wohnung"));
+    EXPECT_EQ(start::BeschriftungLesen(db, "F1"), "Gebucht");
+    EXPECT_EQ(start::BeschriftungLesen(db, "F2"), "Wohnung");
+    EXPECT_EQ(start::FeldLesen(db, "Spaltenbeschriftung", "F7"), basic::Value("Land"));
+    EXPECT_EQ(start::FeldLesen(db, "Spaltenbeschriftung", "F8"), basic::Value("Gebucht"));
+    EXPECT_EQ(start::FeldLesen(db, "Spaltenbeschriftung", "F11"), basic::Value("Wohnung"));
+    EXPECT_EQ(program.g.einstellungen.Beschriftungen.at(1), "Wohnung");
+    EXPECT_FALSE(umgebung().Beschriften(Planbeschriftung::Zimmerspalte, std::string(300, 'x')))
+        << "longer than a field";
+}
+
+TEST_F(Surroundings, OffersPastDueAreSeenToBeforeTheStatistics) {
+    program.house();
+    program.g.dbHaupt = program.open(program.file("Lokal.mdb"));
+    EXPECT_TRUE(umgebung().AngebotePrüfen({})) << "there are none";
+    program.g.dbHaupt.Close();
+    EXPECT_TRUE(umgebung().AngebotePrüfen({})) << "what cannot be asked keeps nobody from the statistics";
 }
 
 } // namespace
