@@ -96,7 +96,7 @@ Ladeergebnis load(start::GlobalState& g, Building& building) {
     return start::PlanLaden(g, steps);
 }
 
-Next runPlan(start::GlobalState& g) {
+Next runPlan(start::GlobalState& g, app::QtWindows& windows) {
     Building building;
     const Ladeergebnis loaded = load(g, building);
     if (loaded == Ladeergebnis::Neuladen) return Next::LoadAgain;
@@ -105,8 +105,10 @@ Next runPlan(start::GlobalState& g) {
         g.dialogs.MsgBox(building.failure, {.icon = services::MsgIcon::Critical}, g.strTitel());
         return Next::End;
     }
+    windows.onStaysChanged([&building] { building.window->showAgain(); });
     building.window->window.showMaximized();
     QApplication::exec();
+    windows.onStaysChanged({});
     g.FormularGeladen = false;
     return g.Neuaufbau ? Next::LoadAgain : Next::End;
 }
@@ -134,7 +136,7 @@ void run(const std::string& call) {
                          .instanz = start::instanzVon(start::programmpfad(call, searchPath()))};
     windows.serve(g);
     if (start::Main(g) == start::Weg::Ende) return;
-    while (runPlan(g) == Next::LoadAgain) {
+    while (runPlan(g, windows) == Next::LoadAgain) {
     }
 }
 

@@ -22,6 +22,7 @@ void addName(const Card& card, FormParts& parts, frmReservierung& form) {
     auto* name = parts.matches("cboAdresse", address.cboAdresse,
                                {.change = [&address] { address.cboAdresse_Change(); },
                                 .choose = [&address](std::int64_t id) { address.cboAdresse_Click(id); },
+                                .leave = [&form] { return form.Text_LostFocus(form.adresse.cboAdresse); },
                                 .key = [&address](Key key) { return address.cboAdresse_KeyDown(key); }});
     name->setPlaceholderText(QStringLiteral("Name eingeben oder aus der Liste wählen"));
     addField(card, 0, 0, QStringLiteral("Nachname"), name, 3);
@@ -55,11 +56,7 @@ void addTown(const Card& card, FormParts& parts, frmReservierung& form) {
                          {.change = [&address] { address.Feld_Change(); },
                           .click = [&address] { address.Feld_Change(); },
                           .leave = [&address] { return address.cboLand_LostFocus(); },
-                          .key =
-                              [&address](Key key) {
-                                  address.cboLand_KeyDown(key);
-                                  return key == Key::F2;
-                              }}),
+                          .key = [&address](Key key) { return address.cboLand_KeyDown(key); }}),
              3);
 }
 
