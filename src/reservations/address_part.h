@@ -95,6 +95,7 @@ private:
     [[nodiscard]] bool vollständig();
     [[nodiscard]] bool passtInFelder();
     [[nodiscard]] bool darfAnlegen();
+    [[nodiscard]] bool darfAnlegenOderBerichtigen();
     [[nodiscard]] bool speichern();
     [[nodiscard]] bool istInland() const;
     [[nodiscard]] bool landLöschen(std::int64_t id);

@@ -89,6 +89,18 @@ bool Adressteil::passtInFelder() {
     return true;
 }
 
+/// A name typed over that of a stored guest corrects it or means somebody else: only the user knows.
+bool Adressteil::darfAnlegenOderBerichtigen() {
+    if (gezeigt_.ID == 0) return darfAnlegen();
+    const MsgResult antwort = g_.dialogs.MsgBox(
+        "Der Name des Gastes wurde von '" + gezeigt_.LastName + "' in '" + Nachname() +
+            "' geändert. Wählen Sie 'Ja', wenn die gespeicherte Adresse den neuen Namen erhalten soll, wählen Sie "
+            "'Nein', wenn eine neue Adresse angelegt werden soll.",
+        {.buttons = MsgButtons::YesNoCancel, .icon = MsgIcon::Question}, Speichertitel);
+    if (antwort == MsgResult::Yes) id_ = gezeigt_.ID;
+    return antwort != MsgResult::Cancel;
+}
+
 bool Adressteil::darfAnlegen() {
     return g_.dialogs.MsgBox("Möchten Sie eine neue Adresse mit diesen Daten anlegen?",
                              {.buttons = MsgButtons::OKCancel, .icon = MsgIcon::Question},
@@ -116,7 +128,7 @@ bool Adressteil::AdressSpeichern() {
     if (!vollständig()) return false;
     if (!Adress_nderung && id_ != 0) return true;
     if (!passtInFelder()) return false;
-    if (id_ == 0 && !darfAnlegen()) return false;
+    if (id_ == 0 && !darfAnlegenOderBerichtigen()) return false;
     if (!toldIfFailed(g_.dialogs, Speichertitel, [&] { return speichern(); })) return false;
     exportieren(false);
     return true;

@@ -174,10 +174,27 @@ TEST(AddressPart, WhoeverStandsInTheFieldHasMadeTheAddress) {
     EXPECT_EQ(r.teil.txtAdrWE.Text, "früher");
     EXPECT_TRUE(r.teil.txtAdrWE.Locked);
     r.typeName("Anders"); // over a known guest: somebody new, who was not made by who made the other
-    r.dialogs.press(MsgResult::OK);
+    r.dialogs.press(MsgResult::No);
     EXPECT_TRUE(r.teil.AdressSpeichern());
     EXPECT_EQ(r.stored("WerErstellt", r.teil.GastID()), "rezeption");
     EXPECT_EQ(r.stored("LastName", alt), "Alt");
+}
+
+TEST(AddressPart, ANameTypedOverAGuestCorrectsHimOnlyWhenToldSo) {
+    Rezeption r;
+    const auto id = r.guest("Maier");
+    r.teil.cboAdresse_Click(id);
+    r.typeName("Meier");
+    r.dialogs.press(MsgResult::Cancel);
+    EXPECT_FALSE(r.teil.AdressSpeichern());
+    EXPECT_NE(r.dialogs.last().text.find("'Maier'"), std::string::npos) << r.dialogs.last().text;
+    EXPECT_EQ(r.stored("LastName", id), "Maier");
+
+    r.dialogs.press(MsgResult::Yes);
+    EXPECT_TRUE(r.teil.AdressSpeichern());
+    EXPECT_EQ(r.teil.GastID(), id);
+    EXPECT_EQ(r.stored("LastName & '/' & WerErstellt", id), "Meier/früher");
+    EXPECT_EQ(r.count(), "1");
 }
 
 TEST(AddressPart, ALineOfTheListLeavesTheLastNameAlone) {
@@ -189,7 +206,7 @@ TEST(AddressPart, ALineOfTheListLeavesTheLastNameAlone) {
     EXPECT_EQ(r.teil.cboAdresse.Text, "Müller");
     r.typeName("Oslo, 28195 Bremen");
     r.teil.txtVorname.Text = "";
-    r.dialogs.press(MsgResult::OK);
+    r.dialogs.press(MsgResult::No);
     EXPECT_TRUE(r.teil.AdressSpeichern());
     EXPECT_EQ(r.stored("LastName & '/' & FirstName", r.teil.GastID()), "Oslo/");
 
