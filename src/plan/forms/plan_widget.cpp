@@ -117,6 +117,7 @@ void PlanWidget::paintEvent(QPaintEvent* event) {
     PlanPainter(painter, grid_, places_, event->rect()).paint(rooms_);
     if (!cursor_) return;
     // Seen on every colour of a cell.
+    painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(qt::look::surface, 4));
     painter.drawRect(cursorRect().adjusted(2, 2, -2, -2));
     painter.setPen(QPen(qt::look::alert, 2));

@@ -282,6 +282,7 @@ TEST(PlanKeys, CursorIsSeenAndReachesEverything) {
     QTest::keyClick(w.window.get(), Qt::Key_F6);
     EXPECT_EQ(w.window->focusWidget(), &w.plan());
     EXPECT_NE(w.plan().grab().toImage(), before);
+    EXPECT_EQ(w.pixel(1, 1), before.pixelColor(w.at(1, 1))) << "only a frame around the cell";
     w.key(Qt::Key_Right);
     w.key(Qt::Key_Right, Qt::ShiftModifier);
     w.key(Qt::Key_Right, Qt::ShiftModifier);
