@@ -217,6 +217,7 @@ private:
 
     // the controls' captions, tool tips, keys and widths (reservation_form_look.cpp)
     void beschriften();
+    void tippsSetzen();
     void breitenSetzen();
     void menüBauen();
     void knöpfeBeschriften();

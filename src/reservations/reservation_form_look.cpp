@@ -62,8 +62,12 @@ void frmReservierung::beschriften() {
     OptZiAuswahl1.Buttons = {services::OptionButton{{}, "alle", {}}, services::OptionButton{{}, "freie Zimmer", {}}};
     lbW_sche1.Caption = e.Wäsche1Name;
     lbW_sche2.Caption = e.Wäsche2Name;
-    lbW_sche1.ToolTipText = wäschetipp(e.Wäsche1Name);
-    lbW_sche2.ToolTipText = wäschetipp(e.Wäsche2Name);
+    for (services::Label* label : {&lbW_sche1, &lbW_sche2})
+        label->ToolTipText = wäschetipp(label->Caption);
+    tippsSetzen();
+}
+
+void frmReservierung::tippsSetzen() {
     fldK_rzel.ToolTipText = "maximal 17 Zeichen";
     fldPreis.ToolTipText = "Wenn Sie hier einen Preis eingeben, wird er als Pauschalpreis gespeichert."
                            " Wenn im Feld Einzelpreis ein Eintrag gemacht wird, wird der Gesamtpreis berechnet.";

@@ -292,6 +292,42 @@ TEST_F(ReservationSave, TheOverlapIsToldOnceInTheLifeOfTheFormAndThenNoDialogSol
     EXPECT_NE(form.ID(), 0);
 }
 
+TEST_F(ReservationSave, AStayThatTheDialogSendsToTheWaitingRowWaitsOnceAndIsNobodyInTheHouse) {
+    const int id = gespeichert(24, 26);
+    house.db().Execute("UPDATE tblBelegung SET Checked = True");
+    belegt(2, 22, 25, "alt");
+    s.windows.beiKollision = [](const start::KollisionAnfrage& anfrage) {
+        return start::KollisionErgebnis{.Weg = Kollisionsweg::Warten, .gelöst = false, .Zimmer = anfrage.Zimmer};
+    };
+    frmReservierung form = öffnen(id);
+    form.cmdReservieren_Click();
+    EXPECT_TRUE(feld("Gelöscht", id).boolOr());
+    EXPECT_FALSE(feld("Checked", id).boolOr() || form.istEingecheckt());
+    antworten({MsgResult::OK, MsgResult::OK});
+    form.cmdReservieren_Click();
+    EXPECT_THAT(gefragt(), ElementsAre("Bitte Zimmernummer eingeben.", kNichtGespeichert));
+}
+
+TEST_F(ReservationSave, ARoomChosenLaterTakesBackTheWishToWait) {
+    belegt(2, 22, 25, "alt");
+    auto weg = Kollisionsweg::Ändern;
+    s.windows.beiKollision = [&](const auto&) {
+        return start::KollisionErgebnis{.Weg = weg, .gelöst = false, .Zimmer = "Zimmer 2"};
+    };
+    frmReservierung form = neu();
+    form.adresse.cboAdresse_Click(gast);
+    s.dialogs.acknowledge(3);
+    form.cmdReservieren_Click();
+    weg = Kollisionsweg::Warten;
+    form.cmdReservieren_Click(); // the message was shown: no dialog solves it any more
+    EXPECT_EQ(form.ID(), 0);
+    form.fldZimmer.choose(form.fldZimmer.Items.indexOf("Zimmer 1"));
+    form.fldZimmer_Click();
+    form.cmdReservieren_Click();
+    EXPECT_FALSE(feld("Gelöscht", form.ID()).boolOr(true));
+    EXPECT_EQ(feld("Zimmernummer", form.ID()), Value(1));
+}
+
 TEST_F(ReservationSave, TheWaitingRowAsksNoRoomAndNobodyIsInTheWay) {
     belegt(2, 20, 23, "alt");
     frmReservierung form = neu();

@@ -96,6 +96,9 @@ TEST_F(ReservationStates, ACheckOutBeforeTheArrivalIsPutInOrderByTheSave) {
 
 TEST_F(ReservationStates, ANewStayKeepsItsCheckUntilItIsStored) {
     frmReservierung form = neu(16, 18);
+    form.lbChecked_Click();
+    EXPECT_TRUE(form.Änderung());
+    form.lbChecked_Click();
     form.adresse.cboAdresse_Click(gast);
     form.fldVon.Text = "15.06.2026"; // what is typed is the day of the check
     form.fldVon_Change();

@@ -194,6 +194,11 @@ TEST_F(ReservationStay, TheSeasonPriceIsSetRecognisedAndTakenBack) {
     wieder.fldPreis.Text = "320";
     wieder.fldPreis_LostFocus();
     EXPECT_TRUE(wieder.istSaisonpreis());
+    zimmer(wieder, "Zimmer 3"); // another room has its own price
+    EXPECT_FALSE(wieder.istSaisonpreis());
+    zimmer(wieder, "Zimmer 2");
+    wieder.fldPreis.Text = "320";
+    wieder.fldPreis_LostFocus();
     wieder.cmdSaisonpreis_Click(); // back to the room's own price
     EXPECT_EQ(wieder.cboTarif.Text + "/" + wieder.fldPreis.Text, "80,00/240,00");
     EXPECT_FALSE(wieder.istSaisonpreis() || wieder.cmdSaisonpreis.BackColor);
@@ -245,6 +250,8 @@ TEST_F(ReservationStay, AShortNameIsTestedWhileItIsTyped) {
     EXPECT_FALSE(eigene.istKürzelVergeben());
     EXPECT_EQ(form.fldK_rzel.Keys.filtered(" a':$;)@><(]}{[*^=~/!\\%.?,\"b c_-"), "ab c_-");
     EXPECT_EQ(form.fldK_rzel.MaxLength, 17);
+    const std::string lang = "Müller20_06-23_06/12";
+    EXPECT_EQ(öffnen(belegt(1, 3, 4, lang)).fldK_rzel.MaxLength, 20); // what is stored is not cut
 }
 
 TEST_F(ReservationStay, ATypedBillingAddressMustMeanOne) {
