@@ -215,7 +215,7 @@ void Binding::bindEdit(QComboBox& widget, services::ComboBox& control, const Pro
 }
 
 void Binding::bind(QButtonGroup& widget, services::OptionGroup& control, std::function<void(int)> click,
-                   KeyProcedure key) {
+                   const KeyProcedure& key) {
     shows_.emplace_back([&widget, &control] { showOptions(widget, control); });
     connect(&widget, &QButtonGroup::idClicked, this, [this, &widget, click = std::move(click)](int id) {
         if (!arrives(*widget.button(id))) return refresh();

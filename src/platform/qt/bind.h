@@ -74,7 +74,7 @@ public:
     void bind(QLineEdit& widget, services::MatchBox& control, MatchEvents events);
     /// The buttons of the group stand in the order of the control's buttons, with ids from 0.
     void bind(QButtonGroup& widget, services::OptionGroup& control, std::function<void(int)> click,
-              KeyProcedure key = {});
+              const KeyProcedure& key = {});
 
     bool eventFilter(QObject* object, QEvent* event) override;
 
