@@ -163,6 +163,10 @@ TEST_F(ReservationWindow, ReturnKeepsTheTariffAndPressesNoButton) {
     EXPECT_EQ(house.value("SELECT Count(*) FROM tblTarife WHERE Tarif = '77,50'").longOr(), 1);
     edit("fldPreis").setFocus();
     EXPECT_EQ(edit("fldPreis").text(), QStringLiteral("155,00"));
+    QTest::keyClicks(&edit("txtVorname"), QStringLiteral("Eva"));
+    QTest::keyClick(&edit("txtVorname"), Qt::Key_Return);
+    EXPECT_EQ(edit("txtVorname").text(), QStringLiteral("Eva"));
+    EXPECT_TRUE(dialog->isVisible());
 }
 
 TEST_F(ReservationWindow, LeavingAnUnknownRoomAsksOnceAndStays) {
