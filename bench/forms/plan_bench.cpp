@@ -9,6 +9,7 @@
 #include "store/database_files.h"
 #include "store/new_house.h"
 #include "support/house.h"
+#include "support/no_windows.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -28,19 +29,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The reservation form is there, so that stays can be drawn, but nothing opens.
-struct NoWindows final : start::Windows {
-    [[nodiscard]] bool has(start::Fenster fenster) const override { return fenster == start::Fenster::Reservierung; }
-    [[nodiscard]] start::PfadeErgebnis Datenbankpfade(const start::PfadeAnfrage&) override { return {}; }
-    [[nodiscard]] start::Adresswahl Adresshilfe(const start::AdresshilfeAnfrage&) override { return {}; }
-    void Einstellungen(const start::EinstellungenAnfrage&) override {}
-    int Reservierung(const start::ReservierungAnfrage&) override { return 0; }
-    [[nodiscard]] start::KollisionErgebnis Kollision(const start::KollisionAnfrage&) override { return {}; }
-    void Saisonzeiten() override {}
-    void Saisonpreise(int) override {}
-    void Reservierungsnummern() override {}
-};
-
 /// A house on the screen of a front desk.
 struct Desk {
     Desk(const std::string& folder, plan::PlanEinstellungen settings)
@@ -59,7 +47,7 @@ struct Desk {
     }
 
     services::FixedClock clock{bench::today()};
-    NoWindows windows;
+    bench::NoWindows windows;
     jet::Workspace workspace{clock};
     jet::Database db;
     plan::PlanAusDatenbank source;

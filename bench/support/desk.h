@@ -4,6 +4,7 @@
 #include "start/global_state.h"
 #include "store/database_files.h"
 #include "support/house.h"
+#include "support/no_windows.h"
 
 #include <stdexcept>
 #include <string>
@@ -26,19 +27,6 @@ public:
         return {};
     }
     std::optional<int> chooseColour(int start) override { return start; }
-};
-
-class NoWindows final : public start::Windows {
-public:
-    [[nodiscard]] bool has(start::Fenster /*fenster*/) const override { return false; }
-    start::PfadeErgebnis Datenbankpfade(const start::PfadeAnfrage& /*anfrage*/) override { return {}; }
-    start::Adresswahl Adresshilfe(const start::AdresshilfeAnfrage& /*anfrage*/) override { return {}; }
-    void Einstellungen(const start::EinstellungenAnfrage& /*anfrage*/) override {}
-    int Reservierung(const start::ReservierungAnfrage& /*anfrage*/) override { return 0; }
-    start::KollisionErgebnis Kollision(const start::KollisionAnfrage& /*anfrage*/) override { return {}; }
-    void Saisonzeiten() override {}
-    void Saisonpreise(int /*zimmernummer*/) override {}
-    void Reservierungsnummern() override {}
 };
 
 struct NoShell final : services::Shell {
