@@ -1,5 +1,6 @@
 #include "reservations/forms/collision_dialog.h"
 
+#include "platform/qt/form_parts.h"
 #include "platform/qt/look.h"
 #include "platform/qt/text.h"
 
@@ -189,11 +190,10 @@ void CollisionDialog::addRow(QGridLayout& grid, int line) {
 
 QBoxLayout* CollisionDialog::buttons() {
     auto* line = new QHBoxLayout;
+    qt::FormParts parts(*this, binding_);
     const auto add = [&](const char* name, services::Button& control, qt::Procedure click) {
-        auto* button = new QPushButton;
-        button->setAutoDefault(false);
-        line->addWidget(named(button, name));
-        binding_.bind(*button, control, std::move(click));
+        auto* button = parts.button(name, control, std::move(click));
+        line->addWidget(button);
         return button;
     };
     add("cmdOK", form_->cmdOK, [this] { form_->cmdOK_Click(); })->setDefault(true);

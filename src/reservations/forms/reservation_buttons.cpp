@@ -5,17 +5,17 @@
 
 namespace reservations {
 
-QLayout* documentButtons(FormParts& parts, frmReservierung& form) {
+QLayout* documentButtons(qt::FormParts& parts, frmReservierung& form) {
     auto* preview = parts.button("cmdBestVorschau", form.cmdBestVorschau, {});
     auto* invoice = parts.button("cmdRechnung", form.cmdRechnung, {});
     auto* registration = parts.button("cmdAnmeldung", form.cmdAnmeldung, {});
     auto* block = parts.button("cmdBlockbuchung", form.cmdBlockbuchung, {});
     auto* wait = parts.button("cmdWarten", form.cmdWarten, [&form] { form.cmdWarten_Click(); });
     auto* remove = parts.button("cmdL_schen", form.cmdL_schen, [&form] { form.cmdL_schen_Click(); });
-    return inRow({preview, invoice, registration, block, nullptr, wait, remove});
+    return qt::inRow({preview, invoice, registration, block, nullptr, wait, remove});
 }
 
-QLayout* closingButtons(FormParts& parts, frmReservierung& form) {
+QLayout* closingButtons(qt::FormParts& parts, frmReservierung& form) {
     auto* first = parts.button("cmdErster", form.cmdErster, [&form] { form.cmdErster_Click(); });
     auto* previous = parts.button("cmdVoriger", form.cmdVoriger, [&form] { form.cmdVoriger_Click(); });
     auto* next = parts.button("cmdN_chster", form.cmdN_chster, [&form] { form.cmdN_chster_Click(); });
@@ -28,7 +28,7 @@ QLayout* closingButtons(FormParts& parts, frmReservierung& form) {
     auto* storeAndClose = parts.button("cmdZu", form.cmdZu, [&form] { form.cmdZu_Click(); });
     storeAndClose->setProperty("primary", true);
     auto* cancel = parts.button("cmdAbbrechen", form.cmdAbbrechen, [&form] { form.cmdAbbrechen_Click(); });
-    return inRow({first, previous, next, last, larger, smaller, nullptr, store, storeAndClose, cancel});
+    return qt::inRow({first, previous, next, last, larger, smaller, nullptr, store, storeAndClose, cancel});
 }
 
 } // namespace reservations

@@ -1,8 +1,8 @@
 #include "reservations/forms/reservation_dialog.h"
 
+#include "platform/qt/form_parts.h"
 #include "platform/qt/menu_view.h"
 #include "platform/qt/text.h"
-#include "reservations/forms/form_parts.h"
 #include "reservations/forms/reservation_groups.h"
 
 #include <QHBoxLayout>
@@ -43,7 +43,7 @@ ReservationDialog::ReservationDialog(frmReservierung& form, QWidget* parent)
 ReservationDialog::~ReservationDialog() = default;
 
 void ReservationDialog::build() {
-    FormParts parts(*this, binding_);
+    qt::FormParts parts(*this, binding_);
     auto* guest = guestGroup(parts, form_);
     auto* stay = stayGroup(parts, form_);
     auto* price = priceGroup(parts, form_);

@@ -16,8 +16,8 @@ namespace {
 
 constexpr int frameWidth = 370;
 
-Card billing(FormParts& parts, frmReservierung& form) {
-    const Card card = makeCard(QStringLiteral("Rechnung und Nummer"), &parts.window());
+qt::Card billing(qt::FormParts& parts, frmReservierung& form) {
+    const qt::Card card = qt::makeCard(QStringLiteral("Rechnung und Nummer"), &parts.window());
     auto* payer = parts.matches("cboAdrRechnung", form.cboAdrRechnung,
                                 {.change = [&form] { form.cboAdrRechnung_Change(); },
                                  .choose = [&form](std::int64_t id) { form.cboAdrRechnung_Click(id); },
@@ -37,7 +37,7 @@ Card billing(FormParts& parts, frmReservierung& form) {
     return card;
 }
 
-void addLaundry(const Card& card, FormParts& parts, frmReservierung& form) {
+void addLaundry(const qt::Card& card, qt::FormParts& parts, frmReservierung& form) {
     auto* first = parts.text("fldW_sche1", form.fldW_sche1, plainEvents(form, form.fldW_sche1));
     auto* second = parts.text("fldW_sche2", form.fldW_sche2, plainEvents(form, form.fldW_sche2));
     card.grid->addWidget(parts.label("lbW_sche1", form.lbW_sche1, first), 3, 0);
@@ -46,13 +46,13 @@ void addLaundry(const Card& card, FormParts& parts, frmReservierung& form) {
     card.grid->addWidget(second, 3, 3);
 }
 
-Card meals(FormParts& parts, frmReservierung& form) {
-    const Card card = makeCard(QStringLiteral("Verpflegung, Wäsche, Kinder"), &parts.window());
+qt::Card meals(qt::FormParts& parts, frmReservierung& form) {
+    const qt::Card card = qt::makeCard(QStringLiteral("Verpflegung, Wäsche, Kinder"), &parts.window());
     const auto change = [&form] { form.Feld_Change(); };
     auto* breakfast = parts.check("chFr_hst_ck", form.chFr_hst_ck, change);
     auto* lunch = parts.check("chMittag", form.chMittag, change);
     auto* dinner = parts.check("chAbendessen", form.chAbendessen, change);
-    card.grid->addLayout(inRow({breakfast, lunch, dinner, nullptr}), 0, 0, 1, 4);
+    card.grid->addLayout(qt::inRow({breakfast, lunch, dinner, nullptr}), 0, 0, 1, 4);
     card.grid->addWidget(parts.check("chNichtAnlegen", form.chNichtAnlegen, change), 1, 0, 1, 4);
     addField(card, 2, 0, QStringLiteral("Artikel"),
              parts.combo("cboArtikel", form.cboArtikel, {.change = change, .click = change}), 3);
@@ -62,8 +62,8 @@ Card meals(FormParts& parts, frmReservierung& form) {
     return card;
 }
 
-Card guest(FormParts& parts, frmReservierung& form) {
-    const Card card = makeCard(QStringLiteral("Weitere Angaben zum Gast"), &parts.window());
+qt::Card guest(qt::FormParts& parts, frmReservierung& form) {
+    const qt::Card card = qt::makeCard(QStringLiteral("Weitere Angaben zum Gast"), &parts.window());
     auto& address = form.adresse;
     const auto change = [&address] { address.Feld_Change(); };
     addField(card, 0, 0, QStringLiteral("Raucher"),
@@ -83,14 +83,14 @@ Card guest(FormParts& parts, frmReservierung& form) {
 
 } // namespace
 
-QWidget* extrasFrame(FormParts& parts, frmReservierung& form) {
+QWidget* extrasFrame(qt::FormParts& parts, frmReservierung& form) {
     auto* frame = new QWidget(&parts.window());
     frame->setObjectName(QStringLiteral("frZusatz"));
     frame->setFixedWidth(frameWidth);
     auto* column = new QVBoxLayout(frame);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(8);
-    for (const Card& card : {billing(parts, form), meals(parts, form), guest(parts, form)}) {
+    for (const qt::Card& card : {billing(parts, form), meals(parts, form), guest(parts, form)}) {
         for (const int field : {1, 3})
             card.grid->setColumnStretch(field, 1);
         column->addWidget(card.frame);

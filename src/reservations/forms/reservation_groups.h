@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reservations/forms/form_parts.h"
+#include "platform/qt/form_parts.h"
 #include "reservations/reservation_form.h"
 
 class QLayout;
@@ -11,22 +11,22 @@ namespace reservations {
 // The groups of the reservation form's window, each with its fields tied to the model.
 
 /// The guest and his address.
-[[nodiscard]] QWidget* guestGroup(FormParts& parts, frmReservierung& form);
+[[nodiscard]] QWidget* guestGroup(qt::FormParts& parts, frmReservierung& form);
 /// Short name and remark.
-[[nodiscard]] QWidget* noteGroup(FormParts& parts, frmReservierung& form);
+[[nodiscard]] QWidget* noteGroup(qt::FormParts& parts, frmReservierung& form);
 /// Room, days, type and number of guests, with the warning of an overlap.
-[[nodiscard]] QWidget* stayGroup(FormParts& parts, frmReservierung& form);
-[[nodiscard]] QWidget* priceGroup(FormParts& parts, frmReservierung& form);
+[[nodiscard]] QWidget* stayGroup(qt::FormParts& parts, frmReservierung& form);
+[[nodiscard]] QWidget* priceGroup(qt::FormParts& parts, frmReservierung& form);
 /// Whether the guest is in the house, has been billed, has paid.
-[[nodiscard]] QWidget* stateGroup(FormParts& parts, frmReservierung& form);
+[[nodiscard]] QWidget* stateGroup(qt::FormParts& parts, frmReservierung& form);
 
 /// What only the large form shows: three groups below each other.
-[[nodiscard]] QWidget* extrasFrame(FormParts& parts, frmReservierung& form);
+[[nodiscard]] QWidget* extrasFrame(qt::FormParts& parts, frmReservierung& form);
 
 /// Documents, the waiting row and the deletion.
-[[nodiscard]] QLayout* documentButtons(FormParts& parts, frmReservierung& form);
+[[nodiscard]] QLayout* documentButtons(qt::FormParts& parts, frmReservierung& form);
 /// Walking through the waiting row, the size, storing and closing.
-[[nodiscard]] QLayout* closingButtons(FormParts& parts, frmReservierung& form);
+[[nodiscard]] QLayout* closingButtons(qt::FormParts& parts, frmReservierung& form);
 
 /// What a plain text box of the stay does.
 [[nodiscard]] qt::TextEvents plainEvents(frmReservierung& form, services::TextBox& control);

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int postalCodeWidth = 80;
 
-void addName(const Card& card, FormParts& parts, frmReservierung& form) {
+void addName(const qt::Card& card, qt::FormParts& parts, frmReservierung& form) {
     auto& address = form.adresse;
     auto* name = parts.matches("cboAdresse", address.cboAdresse,
                                {.change = [&address] { address.cboAdresse_Change(); },
@@ -36,7 +36,7 @@ void addName(const Card& card, FormParts& parts, frmReservierung& form) {
              parts.text("txtName2", address.txtName2, plainAddressEvents(form, address.txtName2)), 3);
 }
 
-void addTown(const Card& card, FormParts& parts, frmReservierung& form) {
+void addTown(const qt::Card& card, qt::FormParts& parts, frmReservierung& form) {
     auto& address = form.adresse;
     addField(card, 3, 0, QStringLiteral("Straße"),
              parts.text("txtStrasse", address.txtStrasse, plainAddressEvents(form, address.txtStrasse)), 3);
@@ -47,7 +47,7 @@ void addTown(const Card& card, FormParts& parts, frmReservierung& form) {
     auto* town =
         parts.combo("cboOrt", address.cboOrt,
                     {.change = [&address] { address.Feld_Change(); }, .click = [&address] { address.cboOrt_Click(); }});
-    auto* line = inRow({code, town});
+    auto* line = qt::inRow({code, town});
     line->setStretch(1, 1);
     addCaption(card, 4, 0, QStringLiteral("PLZ, Ort"), code);
     card.grid->addLayout(line, 4, 1, 1, 3);
@@ -60,7 +60,7 @@ void addTown(const Card& card, FormParts& parts, frmReservierung& form) {
              3);
 }
 
-void addContact(const Card& card, FormParts& parts, frmReservierung& form) {
+void addContact(const qt::Card& card, qt::FormParts& parts, frmReservierung& form) {
     auto& address = form.adresse;
     addField(card, 6, 0, QStringLiteral("Telefon"),
              parts.text("txtTelefon", address.txtTelefon, plainAddressEvents(form, address.txtTelefon)));
@@ -77,8 +77,8 @@ qt::TextEvents plainAddressEvents(frmReservierung& form, services::TextBox& cont
             .leave = [&form, &control] { return form.Text_LostFocus(control); }};
 }
 
-QWidget* guestGroup(FormParts& parts, frmReservierung& form) {
-    const Card card = makeCard(QStringLiteral("Gast"), &parts.window());
+QWidget* guestGroup(qt::FormParts& parts, frmReservierung& form) {
+    const qt::Card card = qt::makeCard(QStringLiteral("Gast"), &parts.window());
     auto& address = form.adresse;
     addName(card, parts, form);
     addTown(card, parts, form);
@@ -89,14 +89,14 @@ QWidget* guestGroup(FormParts& parts, frmReservierung& form) {
     auto* another = parts.button("cmdNeuAdress", address.cmdNeuAdress, [&address] { address.cmdNeuAdress_Click(); });
     auto* store =
         parts.button("cmdAdresseSpeichern", address.cmdAdresseSpeichern, [&form] { form.cmdAdresseSpeichern_Click(); });
-    card.grid->addLayout(inRow({regular, nullptr, another, store}), 8, 0, 1, 4);
+    card.grid->addLayout(qt::inRow({regular, nullptr, another, store}), 8, 0, 1, 4);
     for (const int column : {1, 3})
         card.grid->setColumnStretch(column, 1);
     return card.frame;
 }
 
-QWidget* noteGroup(FormParts& parts, frmReservierung& form) {
-    const Card card = makeCard(QStringLiteral("Auf dem Plan"), &parts.window());
+QWidget* noteGroup(qt::FormParts& parts, frmReservierung& form) {
+    const qt::Card card = qt::makeCard(QStringLiteral("Auf dem Plan"), &parts.window());
     addField(card, 0, 0, QStringLiteral("Kurzinfo"),
              parts.text("fldK_rzel", form.fldK_rzel,
                         {.change = [&form] { form.fldK_rzel_Change(); },

@@ -17,7 +17,7 @@ using services::Key;
 
 namespace {
 
-void addRoom(const Card& card, FormParts& parts, frmReservierung& form) {
+void addRoom(const qt::Card& card, qt::FormParts& parts, frmReservierung& form) {
     auto* room = parts.combo("fldZimmer", form.fldZimmer,
                              {.change = [&form] { form.fldZimmer_Click(); },
                               .click = [&form] { form.fldZimmer_Click(); },
@@ -28,10 +28,10 @@ void addRoom(const Card& card, FormParts& parts, frmReservierung& form) {
         "OptZiAuswahl1", form.OptZiAuswahl1, [&form](int index) { form.OptZiAuswahl1_Click(index); },
         [&form](Key key) { return form.OptZiAuswahl1_KeyDown(key); });
     auto* again = parts.button("cmdAuswahl", form.cmdAuswahl, [&form] { form.cmdAuswahl_Click(); });
-    card.grid->addLayout(inRow({which, nullptr, again}), 1, 1, 1, 3);
+    card.grid->addLayout(qt::inRow({which, nullptr, again}), 1, 1, 1, 3);
 }
 
-void addDays(const Card& card, FormParts& parts, frmReservierung& form) {
+void addDays(const qt::Card& card, qt::FormParts& parts, frmReservierung& form) {
     auto* arrival = parts.date("fldVon", form.fldVon,
                                {.change = [&form] { form.fldVon_Change(); },
                                 .leave = [&form] { return form.fldVon_LostFocus(); },
@@ -45,7 +45,7 @@ void addDays(const Card& card, FormParts& parts, frmReservierung& form) {
     addField(card, 2, 2, QStringLiteral("Abreise"), departure);
 }
 
-void addGuests(const Card& card, FormParts& parts, frmReservierung& form) {
+void addGuests(const qt::Card& card, qt::FormParts& parts, frmReservierung& form) {
     auto* type = parts.combo("cboArt", form.cboArt, {.click = [&form] { form.cboArt_Click(); }});
     card.grid->addWidget(parts.label("lbArt", form.lbArt, type), 3, 0);
     card.grid->addWidget(type, 3, 1);
@@ -58,7 +58,7 @@ void addGuests(const Card& card, FormParts& parts, frmReservierung& form) {
 }
 
 /// The writing stands on the red label. Its place is kept while there is nothing to warn of.
-void addWarning(const Card& card, FormParts& parts, frmReservierung& form) {
+void addWarning(const qt::Card& card, qt::FormParts& parts, frmReservierung& form) {
     auto* back = parts.label("lbWarnung", form.lbWarnung);
     auto* writing = parts.label("lbWarnungSchrift", form.lbWarnungSchrift);
     auto keepsPlace = back->sizePolicy();
@@ -85,8 +85,8 @@ qt::TextEvents plainEvents(frmReservierung& form, services::TextBox& control) {
             .leave = [&form, &control] { return form.Text_LostFocus(control); }};
 }
 
-QWidget* stayGroup(FormParts& parts, frmReservierung& form) {
-    const Card card = makeCard(QStringLiteral("Aufenthalt"), &parts.window());
+QWidget* stayGroup(qt::FormParts& parts, frmReservierung& form) {
+    const qt::Card card = qt::makeCard(QStringLiteral("Aufenthalt"), &parts.window());
     addRoom(card, parts, form);
     addDays(card, parts, form);
     addGuests(card, parts, form);
@@ -96,8 +96,8 @@ QWidget* stayGroup(FormParts& parts, frmReservierung& form) {
     return card.frame;
 }
 
-QWidget* priceGroup(FormParts& parts, frmReservierung& form) {
-    const Card card = makeCard(QStringLiteral("Preis"), &parts.window());
+QWidget* priceGroup(qt::FormParts& parts, frmReservierung& form) {
+    const qt::Card card = qt::makeCard(QStringLiteral("Preis"), &parts.window());
     addField(card, 0, 0, QStringLiteral("Pro Nacht"),
              parts.combo("cboTarif", form.cboTarif,
                          {.change = [&form] { form.cboTarif_Change(); },
@@ -111,14 +111,14 @@ QWidget* priceGroup(FormParts& parts, frmReservierung& form) {
     addField(card, 0, 2, QStringLiteral("Gesamt"), total);
     auto* season = parts.button("cmdSaisonpreis", form.cmdSaisonpreis, [&form] { form.cmdSaisonpreis_Click(); });
     auto* fixed = parts.check("chFix", form.chFix, [&form] { form.chFix_Click(); });
-    card.grid->addLayout(inRow({season, nullptr, fixed}), 1, 1, 1, 3);
+    card.grid->addLayout(qt::inRow({season, nullptr, fixed}), 1, 1, 1, 3);
     for (const int column : {1, 3})
         card.grid->setColumnStretch(column, 1);
     return card.frame;
 }
 
-QWidget* stateGroup(FormParts& parts, frmReservierung& form) {
-    const Card card = makeCard(QStringLiteral("Stand"), &parts.window());
+QWidget* stateGroup(qt::FormParts& parts, frmReservierung& form) {
+    const qt::Card card = qt::makeCard(QStringLiteral("Stand"), &parts.window());
     auto* in = parts.button("lbChecked", form.lbChecked, [&form] { form.lbChecked_Click(); });
     auto* today = parts.button("cmdHeute", form.cmdHeute, [&form] { form.cmdHeute_Click(); });
     auto* block = parts.button("cmdBemBlock", form.cmdBemBlock, [&form] { form.cmdBemBlock_Click(); });

@@ -1,6 +1,7 @@
 #include "reservations/forms/season_dialog.h"
 
 #include "platform/qt/date_box.h"
+#include "platform/qt/form_parts.h"
 #include "platform/qt/grid_view.h"
 #include "platform/qt/text.h"
 
@@ -80,11 +81,9 @@ QLayout* SeasonDialog::addFields() {
 QLayout* SeasonDialog::addButtons() {
     auto* line = new QHBoxLayout;
     line->setSpacing(10);
+    qt::FormParts parts(*this, binding_);
     const auto add = [&](const char* name, services::Button& control, qt::Procedure click) {
-        auto* button = new QPushButton(this);
-        button->setObjectName(qt::text(name));
-        button->setAutoDefault(false);
-        binding_.bind(*button, control, std::move(click));
+        auto* button = parts.button(name, control, std::move(click));
         line->addWidget(button);
         return button;
     };

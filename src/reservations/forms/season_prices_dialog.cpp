@@ -1,5 +1,6 @@
 #include "reservations/forms/season_prices_dialog.h"
 
+#include "platform/qt/form_parts.h"
 #include "platform/qt/text.h"
 
 #include <QGridLayout>
@@ -58,11 +59,9 @@ void SeasonPricesDialog::addButtons(QGridLayout& grid) {
     auto* line = new QHBoxLayout;
     line->setSpacing(10);
     line->addStretch();
+    qt::FormParts parts(*this, binding_);
     const auto add = [&](const char* name, services::Button& control, qt::Procedure click) {
-        auto* button = new QPushButton(this);
-        button->setObjectName(qt::text(name));
-        button->setAutoDefault(false);
-        binding_.bind(*button, control, std::move(click));
+        auto* button = parts.button(name, control, std::move(click));
         line->addWidget(button);
         return button;
     };

@@ -1,6 +1,7 @@
 #include "reservations/forms/collision_dialog.h"
 
 #include "platform/qt/text.h"
+#include "support/forms/widgets.h"
 #include "support/test_house.h"
 #include "support/test_start.h"
 
@@ -21,15 +22,8 @@ namespace {
 
 using start::Kollisionsweg;
 using support::day;
-
-template <typename T>
-T& find(QWidget& window, const char* name) {
-    auto* widget = window.findChild<T*>(qt::text(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return *widget;
-}
-
-void press(QWidget& window, const char* name) { QTest::mouseClick(&find<QPushButton>(window, name), Qt::LeftButton); }
+using support::find;
+using support::press;
 
 /// Six stays in room 1, a new one wants it for their whole time.
 class CollisionWindow : public testing::Test {

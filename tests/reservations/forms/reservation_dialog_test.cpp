@@ -1,6 +1,7 @@
 #include "reservations/forms/reservation_dialog.h"
 
 #include "platform/qt/text.h"
+#include "support/forms/widgets.h"
 #include "support/test_house.h"
 #include "support/test_start.h"
 
@@ -27,13 +28,7 @@ namespace {
 
 using services::MsgResult;
 using support::day;
-
-template <typename T>
-T& find(QWidget& window, const char* name) {
-    auto* widget = window.findChild<T*>(qt::text(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return *widget;
-}
+using support::find;
 
 /// The form of one stay in a house of three rooms, whose guests are Meier, Möller and Schmidt.
 class ReservationWindow : public testing::Test {

@@ -2,6 +2,7 @@
 #include "reservations/forms/number_dialog.h"
 #include "reservations/forms/season_dialog.h"
 #include "reservations/forms/season_prices_dialog.h"
+#include "support/forms/widgets.h"
 #include "support/jet_files.h"
 #include "support/test_start.h"
 
@@ -19,15 +20,8 @@ namespace reservations {
 namespace {
 
 using services::MsgResult;
-
-template <typename T>
-T& find(QWidget& window, const char* name) {
-    auto* widget = window.findChild<T*>(QString::fromLatin1(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return *widget;
-}
-
-void press(QWidget& window, const char* name) { QTest::mouseClick(&find<QPushButton>(window, name), Qt::LeftButton); }
+using support::find;
+using support::press;
 
 void clickRow(qt::GridView& grid, int row) {
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(row, 1)).center());

@@ -1,6 +1,7 @@
 #include "start/forms/address_dialog.h"
 #include "start/forms/database_dialog.h"
 #include "start/forms/progress_window.h"
+#include "support/forms/widgets.h"
 #include "support/test_start.h"
 
 #include <gtest/gtest.h>
@@ -15,16 +16,9 @@
 namespace start {
 namespace {
 
+using support::find;
+using support::press;
 using support::TestStart;
-
-template <typename T>
-T& find(QWidget& window, const char* name) {
-    auto* widget = window.findChild<T*>(QString::fromLatin1(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return *widget;
-}
-
-void press(QWidget& window, const char* name) { QTest::mouseClick(&find<QPushButton>(window, name), Qt::LeftButton); }
 
 TEST(DatabaseDialog, ChoosesSavesAndCloses) {
     TestStart s;

@@ -19,38 +19,36 @@ class QPushButton;
 class QWidget;
 
 namespace qt {
-class DateBox;
-}
 
-namespace reservations {
+class DateBox;
 
 /// Makes the widgets of a form: each carries the name of its control and is tied to it. The Tab key goes through them
 /// in the order in which they were made.
 class FormParts {
 public:
-    FormParts(QWidget& window, qt::Binding& binding) : window_(window), binding_(binding) {}
+    FormParts(QWidget& window, Binding& binding) : window_(window), binding_(binding) {}
 
-    QLineEdit* text(const char* name, services::TextBox& control, qt::TextEvents events);
-    QPlainTextEdit* lines(const char* name, services::TextBox& control, qt::TextEvents events);
-    qt::DateBox* date(const char* name, services::TextBox& control, qt::TextEvents events);
-    QLineEdit* matches(const char* name, services::MatchBox& control, qt::MatchEvents events);
-    QComboBox* combo(const char* name, services::ComboBox& control, qt::ChoiceEvents events);
-    QCheckBox* check(const char* name, services::CheckBox& control, qt::Procedure click, qt::KeyProcedure key = {});
-    QPushButton* button(const char* name, services::Button& control, qt::Procedure click);
+    QLineEdit* text(const char* name, services::TextBox& control, TextEvents events);
+    QPlainTextEdit* lines(const char* name, services::TextBox& control, TextEvents events);
+    DateBox* date(const char* name, services::TextBox& control, TextEvents events);
+    QLineEdit* matches(const char* name, services::MatchBox& control, MatchEvents events);
+    QComboBox* combo(const char* name, services::ComboBox& control, ChoiceEvents events);
+    QCheckBox* check(const char* name, services::CheckBox& control, Procedure click, KeyProcedure key = {});
+    QPushButton* button(const char* name, services::Button& control, Procedure click);
     QLabel* label(const char* name, services::Label& control, QWidget* buddy = nullptr);
     /// A frame with an option button for each one of the control.
     QWidget* options(const char* name, services::OptionGroup& control, std::function<void(int)> click,
-                     qt::KeyProcedure key);
+                     KeyProcedure key);
 
     /// Lets the Tab key follow the order of the making.
     void orderTabs() const;
 
-    [[nodiscard]] qt::Binding& binding() { return binding_; }
+    [[nodiscard]] Binding& binding() { return binding_; }
     [[nodiscard]] QWidget& window() { return window_; }
 
 private:
     QWidget& window_;
-    qt::Binding& binding_;
+    Binding& binding_;
     QWidgetList tabs_;
 };
 
@@ -70,4 +68,4 @@ void addField(const Card& card, int row, int column, const QString& caption, QWi
 /// Widgets side by side; a null stands for the space that stretches.
 [[nodiscard]] QHBoxLayout* inRow(std::initializer_list<QWidget*> widgets);
 
-} // namespace reservations
+} // namespace qt

@@ -1,4 +1,4 @@
-#include "reservations/forms/form_parts.h"
+#include "platform/qt/form_parts.h"
 
 #include "platform/qt/date_box.h"
 #include "platform/qt/look.h"
@@ -17,7 +17,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-namespace reservations {
+namespace qt {
 
 namespace {
 
@@ -26,7 +26,7 @@ constexpr int shownCharacters = 6;
 
 } // namespace
 
-QLineEdit* FormParts::text(const char* name, services::TextBox& control, qt::TextEvents events) {
+QLineEdit* FormParts::text(const char* name, services::TextBox& control, TextEvents events) {
     auto* edit = new QLineEdit(&window_);
     edit->setObjectName(qt::text(name));
     binding_.bind(*edit, control, std::move(events));
@@ -34,7 +34,7 @@ QLineEdit* FormParts::text(const char* name, services::TextBox& control, qt::Tex
     return edit;
 }
 
-QPlainTextEdit* FormParts::lines(const char* name, services::TextBox& control, qt::TextEvents events) {
+QPlainTextEdit* FormParts::lines(const char* name, services::TextBox& control, TextEvents events) {
     auto* edit = new QPlainTextEdit(&window_);
     edit->setObjectName(qt::text(name));
     edit->setTabChangesFocus(true);
@@ -45,14 +45,14 @@ QPlainTextEdit* FormParts::lines(const char* name, services::TextBox& control, q
     return edit;
 }
 
-qt::DateBox* FormParts::date(const char* name, services::TextBox& control, qt::TextEvents events) {
-    auto* box = new qt::DateBox(qt::text(name), &window_);
-    qt::bindDate(binding_, *box, control, std::move(events));
+DateBox* FormParts::date(const char* name, services::TextBox& control, TextEvents events) {
+    auto* box = new DateBox(qt::text(name), &window_);
+    bindDate(binding_, *box, control, std::move(events));
     tabs_.append(&box->edit());
     return box;
 }
 
-QLineEdit* FormParts::matches(const char* name, services::MatchBox& control, qt::MatchEvents events) {
+QLineEdit* FormParts::matches(const char* name, services::MatchBox& control, MatchEvents events) {
     auto* edit = new QLineEdit(&window_);
     edit->setObjectName(qt::text(name));
     binding_.bind(*edit, control, std::move(events));
@@ -60,7 +60,7 @@ QLineEdit* FormParts::matches(const char* name, services::MatchBox& control, qt:
     return edit;
 }
 
-QComboBox* FormParts::combo(const char* name, services::ComboBox& control, qt::ChoiceEvents events) {
+QComboBox* FormParts::combo(const char* name, services::ComboBox& control, ChoiceEvents events) {
     auto* box = new QComboBox(&window_);
     box->setObjectName(qt::text(name));
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -71,7 +71,7 @@ QComboBox* FormParts::combo(const char* name, services::ComboBox& control, qt::C
     return box;
 }
 
-QCheckBox* FormParts::check(const char* name, services::CheckBox& control, qt::Procedure click, qt::KeyProcedure key) {
+QCheckBox* FormParts::check(const char* name, services::CheckBox& control, Procedure click, KeyProcedure key) {
     auto* box = new QCheckBox(&window_);
     box->setObjectName(qt::text(name));
     binding_.bind(*box, control, std::move(click), std::move(key));
@@ -79,7 +79,7 @@ QCheckBox* FormParts::check(const char* name, services::CheckBox& control, qt::P
     return box;
 }
 
-QPushButton* FormParts::button(const char* name, services::Button& control, qt::Procedure click) {
+QPushButton* FormParts::button(const char* name, services::Button& control, Procedure click) {
     auto* button = new QPushButton(&window_);
     button->setObjectName(qt::text(name));
     button->setAutoDefault(false); // Return belongs to the field that has the focus
@@ -98,7 +98,7 @@ QLabel* FormParts::label(const char* name, services::Label& control, QWidget* bu
 }
 
 QWidget* FormParts::options(const char* name, services::OptionGroup& control, std::function<void(int)> click,
-                            qt::KeyProcedure key) {
+                            KeyProcedure key) {
     auto* frame = new QWidget(&window_);
     frame->setObjectName(qt::text(name));
     auto* row = new QHBoxLayout(frame);
@@ -124,7 +124,7 @@ Card makeCard(const QString& heading, QWidget* parent) {
     auto* frame = new QFrame(parent);
     frame->setObjectName(QStringLiteral("karte"));
     frame->setStyleSheet(QStringLiteral("QFrame#karte { background: %1; border: 1px solid %2; border-radius: 6px; }")
-                             .arg(qt::look::surface.name(), qt::look::border.name()));
+                             .arg(look::surface.name(), look::border.name()));
     auto* column = new QVBoxLayout(frame);
     column->setContentsMargins(12, 8, 12, 10);
     column->setSpacing(6);
@@ -170,4 +170,4 @@ QHBoxLayout* inRow(std::initializer_list<QWidget*> widgets) {
     return row;
 }
 
-} // namespace reservations
+} // namespace qt
