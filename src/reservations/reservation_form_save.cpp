@@ -141,9 +141,8 @@ bool frmReservierung::fktTesteÜberschneidungen() {
                                                              .Zimmer = zimmername(),
                                                              .Kollisionen = kollisionen})
                                      : start::KollisionErgebnis{});
-    if (stand_.MeldungGezeigt) return false;
     überschneidungPrüfen();
-    return stand_.KollisionGelöst;
+    return stand_.KollisionGelöst && !stand_.MeldungGezeigt;
 }
 
 void frmReservierung::kollisionsergebnisÜbernehmen(const start::KollisionErgebnis& ergebnis) {
@@ -297,6 +296,7 @@ void frmReservierung::nachDemSpeichern() {
     }
     prüfdatumNachziehen();
     stand_.InWarteposition = stand_.KürzelMeldungAus = false;
+    if (überschneidung_) überschneidungPrüfen(); // what was in the way may have gone since the last change
     zeigeAbrechnung();
     zeigeBezahlt();
     basic::quietly([&] {

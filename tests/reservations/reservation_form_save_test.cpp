@@ -288,8 +288,20 @@ TEST_F(ReservationSave, TheOverlapIsToldOnceInTheLifeOfTheFormAndThenNoDialogSol
     antworten({MsgResult::OK});
     form.cmdReservieren_Click();
     EXPECT_THAT(gefragt(), ElementsAre(kNichtGespeichert));
+    EXPECT_FALSE(form.lbWarnung.Visible) << "the old stay has moved all the same";
     form.cmdReservieren_Click(); // nothing is in the way any more
     EXPECT_NE(form.ID(), 0);
+}
+
+TEST_F(ReservationSave, TheWarningGoesWithWhatWasInTheWay) {
+    const int alt = belegt(2, 22, 25, "alt");
+    frmReservierung form = neu();
+    form.adresse.cboAdresse_Click(gast);
+    ASSERT_TRUE(form.lbWarnung.Visible);
+    house.db().Execute("DELETE * FROM tblBelegung WHERE ID = " + std::to_string(alt)); // by another station
+    form.cmdReservieren_Click();
+    EXPECT_NE(form.ID(), 0);
+    EXPECT_FALSE(form.lbWarnung.Visible || form.lbWarnungSchrift.Visible);
 }
 
 TEST_F(ReservationSave, AStayThatTheDialogSendsToTheWaitingRowWaitsOnceAndIsNobodyInTheHouse) {
