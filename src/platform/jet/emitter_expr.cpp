@@ -10,6 +10,12 @@ namespace jet {
 
 namespace {
 
+/// A date written as text, which is to be read once in a run of the statement and not once in each of its rows.
+bool isDateText(const Function& function, const ast::Expr& argument, std::size_t position) {
+    return function.name == "DateDiff" && (position == 1 || position == 2) && argument.type == ExprType::Text &&
+           std::holds_alternative<ast::Literal>(argument.node);
+}
+
 constexpr const char* collate = " COLLATE DE";
 
 const char* symbolOf(ast::Binary::Op op) {
@@ -337,7 +343,13 @@ std::string Emitter::call(const ast::Call& call) {
     if (known->result == Function::Result::CommonOfAll)
         for (const ast::ExprPtr& argument : call.arguments)
             common = commonType(common, argument->type);
-    for (const ast::ExprPtr& argument : call.arguments) {
+    for (std::size_t position = 0; position < call.arguments.size(); ++position) {
+        const ast::ExprPtr& argument = call.arguments[position];
+        if (isDateText(*known, *argument, position)) {
+            types += typeLetter(ExprType::Date);
+            values += ", " + function("j_cvdate", {argument.get()});
+            continue;
+        }
         const ExprType type = common == ExprType::Text ? ExprType::Text : argument->type;
         types += typeLetter(type);
         values += ", " + valueAs(*argument, common == ExprType::Text ? ExprType::Text : ExprType::Any);
