@@ -65,6 +65,8 @@ void frmMain::Form_Load() {
 }
 
 void frmMain::zeigeAb(const std::function<basic::Date()>& start) {
+    // Behind its form, what was drawn would hide what the form has stored.
+    if (!AuswahlAktiv()) zeichnung_.clear();
     try {
         raster_->subZeigeDatum(start(), raster_->AnzahlTage());
         fehler_.clear();
