@@ -76,6 +76,8 @@ public:
     Wirkung MouseDown(int zeile, int spalte);
     /// The left button is up: the drawn stay is entered in its form.
     Wirkung MouseUp();
+    /// The button is up, or another window has it: the drawn stay is given up.
+    Wirkung MouseLost();
     /// A new stay is being drawn.
     [[nodiscard]] bool AuswahlAktiv() const { return zeichnung_.AuswahlAktiv(); }
     [[nodiscard]] Platz Auswahlplatz() const { return zeichnung_.platz(); }

@@ -34,7 +34,8 @@ basic::Date frmMain::TagDerZelle(int zeile, int spalte) const {
 
 void frmMain::Kontext_Öffnen(Kontext wo) {
     ziel_ = {};
-    if (offen_ == 0) Kontextmenü = plan::Kontextmenü(wo, umgebung_);
+    Kontextmenü.Entries.clear();
+    if (offen_ == 0 && !AuswahlAktiv()) Kontextmenü = plan::Kontextmenü(wo, umgebung_);
 }
 
 void frmMain::RechteTaste(int zeile, int spalte) {
@@ -166,7 +167,7 @@ void frmMain::Zimmer_Click(int zeile) {
 }
 
 void frmMain::Beschriftung_Ändern(Planbeschriftung was) {
-    if (offen_ > 0 || umgebung_.dialogs == nullptr || !umgebung_.Beschriften) return;
+    if (offen_ > 0 || AuswahlAktiv() || umgebung_.dialogs == nullptr || !umgebung_.Beschriften) return;
     ungestört([&] {
         auto text =
             was == Planbeschriftung::Belegungsrahmen ? optBelArt.Caption : raster_->Einstellungen().Zimmerspalte;

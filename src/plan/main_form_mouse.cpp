@@ -170,8 +170,8 @@ void frmMain::MouseRest() {
 }
 
 bool frmMain::verlängere(int spalte, Wirkung& wirkung) {
-    if (!zeichnung_.extendTo(spalte)) return false;
     wirkung = std::max(wirkung, Wirkung::Auswahl);
+    if (!zeichnung_.extendTo(spalte)) return false;
     if (spalte == raster_->AnzahlTage()) {
         Navigation_Click(EinTagWeiter()); // the plan goes on under the drawn stay
         wirkung = Wirkung::Plan;
@@ -197,22 +197,28 @@ std::string frmMain::Ablehnung(int zeile) const {
 Wirkung frmMain::MouseDown(int zeile, int spalte) {
     if (bewegt_ || offen_ > 0 || !umgebung_.has(start::Fenster::Reservierung)) return Wirkung::Nichts;
     if (!aufZellen(zeile, spalte)) return Wirkung::Nichts;
-    zeichnung_.clear(); // of a press whose release got lost
+    const Wirkung wirkung = std::max(MouseLost(), Wirkung::Auswahl);
     log_->Kopf();
     log_->Stufe("Position des Cursers ermittelt  ");
     if (const auto grund = Ablehnung(zeile); !grund.empty()) {
         melde(grund, raster_->Einstellungen().strTitel);
-        return Wirkung::Auswahl;
+        return wirkung;
     }
     // A new stay may begin on a departure day, but must have its first night.
     const int zelle = raster_->Zelle(zeile, spalte);
     if (!raster_->istFrei(zelle) || (spalte < raster_->AnzahlTage() && !raster_->istFrei(zelle + 1))) {
         melde("Hier besteht bereits eine Reservierung.", "Reservierung");
-        return Wirkung::Auswahl;
+        return wirkung;
     }
     zeichnung_.begin(Zimmernummer(zeile), raster_->Datum(spalte), AuswahlArt, AuswahlFarbe);
     log_->Stufe("Zugehörige Markierung gesucht  ");
-    return Wirkung::Auswahl;
+    return wirkung;
+}
+
+Wirkung frmMain::MouseLost() {
+    if (!AuswahlAktiv()) return Wirkung::Nichts;
+    brichAb();
+    return Wirkung::Plan;
 }
 
 Wirkung frmMain::MouseUp() {

@@ -34,15 +34,15 @@ bool Auswahlzeichnung::extendTo(int spalte) {
     if (zeile() == 0) return false;
     // The last column may show a stay of the next line, from before the plan: it is in nobody's way.
     if (spalte == raster_->AnzahlTage() && raster_->Bild(raster_->Zelle(zeile(), spalte)).Überlauf) --spalte;
-    const auto vorher = platz();
-    const auto ziel = std::max(raster_->Datum(spalte), auswahl().Von);
     // A quick pointer jumps over cells: the stay ends before the first one that is taken.
-    for (int i = vorher.BisSpalte + 1; i <= spalte; ++i)
-        if (!raster_->istFrei(raster_->Zelle(zeile(), i))) return false;
+    int letzte = platz().BisSpalte;
+    while (letzte < spalte && raster_->istFrei(raster_->Zelle(zeile(), letzte + 1)))
+        ++letzte;
+    if (letzte == 0) return false;
     unpaint();
-    raster_->AktiveAuswahl->Bis = ziel;
+    raster_->AktiveAuswahl->Bis = std::max(raster_->Datum(std::min(spalte, letzte)), auswahl().Von);
     repaint();
-    return true;
+    return letzte >= spalte;
 }
 
 void Auswahlzeichnung::repaint() {

@@ -28,7 +28,7 @@ public:
     [[nodiscard]] Platz platz() const;
 
     void begin(int AuswahlZeile, basic::Date AuswahlVon, int AuswahlArt, Farbe AuswahlFarbe);
-    /// The pointer has come to this column. False when the stay does not reach it.
+    /// The pointer has come to this column. False when another stay lies before it: the drawn one ends there.
     bool extendTo(int spalte);
     /// After a load the cells show the stay again.
     void repaint();

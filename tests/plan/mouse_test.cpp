@@ -312,11 +312,12 @@ TEST(Drawing, EndsBeforeTheNextStayHoweverQuickThePointerIs) {
     t.house.stay({.Zimmernummer = 2, .Von = day(20, 6), .Bis = day(22, 6), .Belegungsart = 1});
     t.wähleArt();
     t.form().MouseDown(2, Tisch::spalte(16));
-    t.form().MouseMove(2, Tisch::spalte(18), Maustaste::Links);
-    t.form().MouseMove(2, Tisch::spalte(20), Maustaste::Links);
+    EXPECT_EQ(t.form().MouseMove(2, Tisch::spalte(21), Maustaste::Links), Wirkung::Auswahl);
     t.form().MouseMove(2, Tisch::spalte(24), Maustaste::Links);
-    EXPECT_EQ(t.form().Auswahlplatz(), (Platz{2, Tisch::spalte(16), Tisch::spalte(18)}));
+    EXPECT_EQ(t.form().Auswahlplatz(), (Platz{2, Tisch::spalte(16), Tisch::spalte(19)}));
     EXPECT_EQ(t.raster().Tage(t.raster().Zelle(2, Tisch::spalte(20))).ID, 1);
+    t.form().MouseMove(2, Tisch::spalte(17), Maustaste::Links);
+    EXPECT_EQ(t.form().Auswahlplatz(), (Platz{2, Tisch::spalte(16), Tisch::spalte(17)}));
 }
 
 TEST(Drawing, PlanGoesOnUnderTheStayAtTheLastColumn) {
@@ -373,6 +374,40 @@ TEST(Drawing, EscapeGivesItUp) {
     t.form().MouseUp();
     EXPECT_TRUE(t.anfragen.empty());
     EXPECT_FALSE(t.form().KeyDown(Plantaste::Esc)) << "there is nothing left to give up";
+}
+
+TEST(Drawing, LostReleaseGivesItUpAndShowsWhatCameMeanwhile) {
+    Tisch t;
+    t.wähleArt();
+    EXPECT_EQ(t.form().MouseLost(), Wirkung::Nichts);
+    t.ziehe(2, 5, 8);
+    t.house.stay({.Zimmernummer = 2, .Von = day(18, 6), .Bis = day(22, 6), .Belegungsart = 1});
+    t.form().cmdAktualisieren_Click();
+    ASSERT_TRUE(t.gemalt(2, 7)) << "the drawn stay lies over the new one";
+    EXPECT_EQ(t.form().MouseLost(), Wirkung::Plan);
+    EXPECT_FALSE(t.form().AuswahlAktiv());
+    EXPECT_TRUE(t.frei(2, 5));
+    EXPECT_EQ(t.raster().Tage(t.raster().Zelle(2, 7)).WeitereIDs, "");
+    EXPECT_FALSE(t.frei(2, 7));
+    EXPECT_EQ(t.form().MouseUp(), Wirkung::Nichts);
+    EXPECT_TRUE(t.anfragen.empty());
+}
+
+TEST(Drawing, NothingElseOpensWhileTheButtonIsHeld) {
+    Tisch t;
+    t.house.stay({.Von = day(15, 6), .Bis = day(18, 6), .Belegungsart = 2});
+    t.wähleArt();
+    t.form().Kontext_Öffnen(Kontext::KontextDatum); // of an earlier press, given up
+    t.ziehe(2, 5, 8);
+    for (const auto wo : {Kontext::KontextZimmer, Kontext::kontextZusätze, Kontext::KONTEXTBelArt}) {
+        t.form().Kontext_Öffnen(wo);
+        EXPECT_TRUE(t.form().Kontextmenü.Entries.empty());
+    }
+    t.form().RechteTaste(1, Tisch::spalte(16));
+    EXPECT_TRUE(t.form().Kontextmenü.Entries.empty());
+    t.form().Beschriftung_Ändern(Planbeschriftung::Zimmerspalte);
+    EXPECT_TRUE(t.dialogs.asked().empty());
+    EXPECT_EQ(t.form().Auswahlplatz(), (Platz{2, 5, 8}));
 }
 
 TEST(Drawing, EventsThatReachThePlanBehindTheFormAreKeptOut) {

@@ -91,7 +91,9 @@ MainWindow::MainWindow(frmMain& form)
     plan_->setFocus();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    plan_->onLost = nullptr; // its focus goes after the parts that would show the loss
+}
 
 void MainWindow::run(const std::function<void()>& event) {
     event();
@@ -121,6 +123,7 @@ void MainWindow::connectMouse() {
         return form_.AuswahlAktiv();
     };
     plan_->onRelease = [this] { apply(form_.MouseUp()); };
+    plan_->onLost = [this] { apply(form_.MouseLost()); };
     plan_->onRest = [this] {
         form_.MouseRest();
         refreshStatus();

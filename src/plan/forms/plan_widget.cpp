@@ -5,6 +5,7 @@
 #include "platform/qt/text.h"
 
 #include <QContextMenuEvent>
+#include <QFocusEvent>
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -128,10 +129,17 @@ void PlanWidget::resizeEvent(QResizeEvent* event) { places_ = PlanGeometry(grid_
 
 void PlanWidget::mouseMoveEvent(QMouseEvent* event) {
     const auto point = event->position().toPoint();
+    const bool held = event->buttons().testFlag(Qt::LeftButton);
+    if (!held) loseButton();
     rest_.start();
     if (onMove)
-        onMove(places_.lineAt(point.y()), places_.columnAt(point.x()),
-               event->buttons().testFlag(Qt::LeftButton) ? Maustaste::Links : Maustaste::Keine);
+        onMove(places_.lineAt(point.y()), places_.columnAt(point.x()), held ? Maustaste::Links : Maustaste::Keine);
+}
+
+void PlanWidget::loseButton() {
+    if (!hold_.isActive()) return;
+    hold_.stop();
+    if (onLost) onLost();
 }
 
 void PlanWidget::mousePressEvent(QMouseEvent* event) {
@@ -149,7 +157,7 @@ void PlanWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void PlanWidget::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return;
+    if (event->button() != Qt::LeftButton || !hold_.isActive()) return;
     hold_.stop();
     if (onRelease) onRelease();
 }
@@ -167,6 +175,12 @@ void PlanWidget::contextMenuEvent(QContextMenuEvent* event) { event->accept(); }
 void PlanWidget::leaveEvent(QEvent*) {
     rest_.stop();
     if (onMove) onMove(0, 0, Maustaste::Keine);
+}
+
+/// A menu or another window opens over the drawn stay, and the button's release goes there.
+void PlanWidget::focusOutEvent(QFocusEvent* event) {
+    loseButton();
+    QWidget::focusOutEvent(event);
 }
 
 QRect PlanWidget::rectOf(const Platz& place) const {

@@ -34,6 +34,8 @@ public:
     std::function<void(int line, int column, Maustaste held)> onMove;
     std::function<void(int line, int column)> onPress;
     std::function<void()> onRelease;
+    /// The left button was held, and something else has taken its release.
+    std::function<void()> onLost;
     /// The left button is held, again and again. Answers whether that still matters.
     std::function<bool()> onHold;
     /// The pointer has rested for a moment.
@@ -69,11 +71,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
     [[nodiscard]] Spaltenmasse measure() const;
+    void loseButton();
     [[nodiscard]] QString toolTipAt(const QPoint& point) const;
     [[nodiscard]] QString roomToolTip(const PlanHit& hit, const QPoint& point) const;
     [[nodiscard]] QRect rectOf(const Platz& place) const;

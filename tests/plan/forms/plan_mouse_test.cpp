@@ -51,8 +51,8 @@ struct Front {
         QTest::mousePress(&plan(), button, Qt::NoModifier, point);
     }
     /// The pointer goes there with the left button held.
-    void drag(QPoint point) {
-        QMouseEvent move(QEvent::MouseMove, point, plan().mapToGlobal(point), Qt::NoButton, Qt::LeftButton, {});
+    void drag(QPoint point, Qt::MouseButtons held = Qt::LeftButton) {
+        QMouseEvent move(QEvent::MouseMove, point, plan().mapToGlobal(point), Qt::NoButton, held, {});
         QApplication::sendEvent(&plan(), &move);
     }
     void release(QPoint point) { QTest::mouseRelease(&plan(), Qt::LeftButton, Qt::NoModifier, point); }
@@ -155,6 +155,25 @@ TEST(PlanMouse, HeldAtTheEdgeThePlanGoesOn) {
     const auto after = w.tisch.raster().PlanStart();
     QTest::qWait(300);
     EXPECT_EQ(w.tisch.raster().PlanStart(), after);
+}
+
+TEST(PlanMouse, ReleaseThatGoesElsewhereGivesTheDrawnStayUp) {
+    for (const bool menuOpens : {true, false}) {
+        Front w;
+        QTest::mouseClick(&w.find<QRadioButton>("optBelArt2"), Qt::LeftButton);
+        const auto free = w.pixel(1, 6);
+        w.press(w.at(1, 5));
+        w.drag(w.at(1, 8));
+        if (menuOpens)
+            QTest::keyClick(w.window.get(), Qt::Key_D, Qt::AltModifier);
+        else
+            w.drag(w.at(2, 9), Qt::NoButton);
+        EXPECT_EQ(w.pixel(1, 6), free) << menuOpens;
+        EXPECT_EQ(w.menu() != nullptr, menuOpens);
+        if (menuOpens) w.menu()->close();
+        w.release(w.at(1, 8));
+        EXPECT_TRUE(w.tisch.anfragen.empty());
+    }
 }
 
 TEST(PlanMouse, RightButtonOpensTheStayThroughItsMenu) {
@@ -287,6 +306,8 @@ TEST(PlanKeys, CursorIsSeenAndReachesEverything) {
     w.key(Qt::Key_Right, Qt::ShiftModifier);
     w.key(Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(w.pixel(1, 3), colour(Auswahlgelb));
+    QTest::mouseClick(&w.plan(), Qt::LeftButton, Qt::NoModifier, w.plan().places().upperDay(9).center());
+    EXPECT_TRUE(w.tisch.anfragen.empty()) << "a click beside the cells ends no stay that the keys draw";
     w.key(Qt::Key_Return);
     ASSERT_EQ(w.tisch.anfragen.size(), 1U);
     EXPECT_EQ(w.tisch.anfragen[0].Bis, day(16, 6));
