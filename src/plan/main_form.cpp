@@ -3,12 +3,10 @@
 #include "plan/main_menu.h"
 #include "platform/basic/convert.h"
 #include "platform/basic/format.h"
-#include "platform/basic/quietly.h"
 #include "platform/basic/text.h"
 #include "platform/jet/error.h"
 #include "start/plan_load.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace plan {
@@ -18,9 +16,6 @@ using basic::Format;
 namespace {
 
 constexpr Farbe Rotschrift = 0x0000FF;
-
-/// Nobody has said yet whether the stay is paid.
-constexpr std::string_view Unbekannt = "inaktiv";
 
 /// The tick of the refresh timer that finds this count refreshes.
 constexpr int kTakte = 5;
@@ -97,9 +92,7 @@ void frmMain::cmdErster_Click() { ScrollBar_Change(0); }
 
 void frmMain::cmdLetzter_Click() { ScrollBar_Change(ScrollBarMax()); }
 
-void frmMain::cmdAktualisieren_Click() {
-    Navigation_Click(*std::ranges::find(Navigationsleiste, std::string_view("cmdAktualisieren"), &Navigation::Name));
-}
+void frmMain::cmdAktualisieren_Click() { Navigation_Click(Navigationsknopf("cmdAktualisieren")); }
 
 void frmMain::TimerAktualisieren_Timer() {
     if (Zaehler_ != kTakte) {
@@ -115,7 +108,13 @@ void frmMain::TimerAktualisieren_Timer() {
 
 void frmMain::ungestört(const std::function<void()>& event) {
     ++offen_;
-    basic::quietly(event);
+    try {
+        event();
+    } catch (const basic::Error& error) {
+        if (umgebung_.dialogs != nullptr)
+            umgebung_.dialogs->MsgBox(error.text(), {.icon = services::MsgIcon::Exclamation},
+                                      raster_->Einstellungen().strTitel);
+    }
     --offen_;
     if (offen_ == 0 && std::exchange(aktualisieren_, false)) cmdAktualisieren_Click();
 }

@@ -158,7 +158,8 @@ private:
     void springe();
     void starte(const Menüpunkt& punkt);
     void folge(const Menüpunkt& punkt);
-    /// Runs what may open windows and boxes. A timed refresh that falls due meanwhile follows at its end.
+    /// Runs what the user has asked for, which may open windows and boxes: an error of it is told. A timed refresh
+    /// that falls due meanwhile follows at its end.
     void ungestört(const std::function<void()>& event);
     void öffneReservierung(const start::ReservierungAnfrage& anfrage);
     void öffneLetzte();
@@ -182,9 +183,8 @@ private:
     // main_form_context.cpp
     void KontextAufBalken(const tplZelle& zelle);
     void KontextWartend(const tplZelle& zelle, basic::Date tag);
-    [[nodiscard]] std::optional<int> wähleAus(const std::string& weitereIDs);
+    [[nodiscard]] std::optional<Aufenthalt> wähleAus(const std::vector<int>& ids);
     [[nodiscard]] basic::Date TagDerZelle(int zeile, int spalte) const;
-    [[nodiscard]] bool istAngebot(int id) const;
     /// False when the user cancelled.
     [[nodiscard]] bool frageBezeichnung(std::string& text);
     void führeAus(const Kontextweg& weg);
@@ -198,6 +198,9 @@ private:
     bool brichAb();
     void öffneKontextAmCursor();
     void zeigeCursor();
+
+    /// Nobody has said yet whether the stay is paid.
+    static constexpr std::string_view Unbekannt = "inaktiv";
 
     Planraster* raster_;
     const services::Clock* clock_;

@@ -1,9 +1,9 @@
 #include "plan/main_form.h"
 #include "platform/basic/format.h"
-#include "platform/basic/quietly.h"
 #include "platform/basic/text.h"
 #include "reservations/states.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace plan {
@@ -12,14 +12,15 @@ using basic::Format;
 
 namespace {
 
-/// The numbers of a list with commas.
-std::vector<int> IDsAus(const std::string& liste) {
+/// All stays that a cell with a bar stands for.
+std::vector<int> IDsDer(const tplZelle& zelle) {
     std::vector<int> ids;
-    for (const auto& part : basic::Split(liste, ",")) {
+    for (const auto& part : basic::Split(zelle.WeitereIDs, ",")) {
         int id = 0;
         std::from_chars(part.data(), part.data() + part.size(), id);
         if (id > 0) ids.push_back(id);
     }
+    if (ids.empty()) ids = {zelle.ID};
     return ids;
 }
 
@@ -59,43 +60,32 @@ void frmMain::RechteTaste(int zeile, int spalte) {
 }
 
 void frmMain::KontextWartend(const tplZelle& zelle, basic::Date tag) {
-    if (umgebung_.db != nullptr && WartendeLesen(*umgebung_.db, tag).empty()) return;
-    auto ids = IDsAus(zelle.WeitereIDs);
-    if (ids.empty()) ids = {zelle.ID};
-    ziel_ = {.IDs = std::move(ids), .Wartetag = tag};
+    if (umgebung_.db == nullptr || WartendeLesen(*umgebung_.db, tag).empty()) return;
+    ziel_ = {.IDs = IDsDer(zelle), .Wartetag = tag};
     Kontextmenü = plan::Kontextmenü(Kontext::KontReservierung, umgebung_, {.Angebot = true});
 }
 
 void frmMain::KontextAufBalken(const tplZelle& zelle) {
-    auto id = std::optional(zelle.ID);
-    const bool angebot = zelle.Angebot;
-    bool checked = zelle.Checked;
-    if (!zelle.WeitereIDs.empty()) id = wähleAus(zelle.WeitereIDs);
-    if (!id) return;
-    if (umgebung_.db != nullptr) {
-        const auto stay = AufenthaltLesen(*umgebung_.db, *id);
-        if (!stay) return;
-        checked = stay->Checked;
-    }
-    const bool offer = *id == zelle.ID ? angebot : istAngebot(*id);
-    ziel_ = {.IDs = {*id}};
-    Kontextmenü = plan::Kontextmenü(Kontext::KontReservierung, umgebung_, {.Angebot = offer, .Checked = checked});
+    if (umgebung_.db == nullptr) return;
+    const auto stay = wähleAus(IDsDer(zelle));
+    if (!stay) return;
+    ziel_ = {.IDs = {stay->ID}};
+    Kontextmenü = plan::Kontextmenü(
+        Kontext::KontReservierung, umgebung_,
+        {.Angebot = reservations::istAngebotOderWartet(*umgebung_.db, stay->ID), .Checked = stay->Checked});
 }
 
-bool frmMain::istAngebot(int id) const {
-    return umgebung_.db != nullptr && reservations::istAngebotOderWartet(*umgebung_.db, id);
-}
-
-std::optional<int> frmMain::wähleAus(const std::string& weitereIDs) {
+std::optional<Aufenthalt> frmMain::wähleAus(const std::vector<int>& ids) {
     std::vector<Aufenthalt> stays;
-    for (const int id : IDsAus(weitereIDs))
-        if (umgebung_.db != nullptr)
-            if (auto stay = AufenthaltLesen(*umgebung_.db, id)) stays.push_back(std::move(*stay));
+    for (const int id : ids)
+        if (auto stay = AufenthaltLesen(*umgebung_.db, id)) stays.push_back(std::move(*stay));
     if (stays.empty()) return std::nullopt;
-    if (stays.size() == 1 || !umgebung_.Zimmerauswahl) return stays.front().ID;
+    if (stays.size() == 1 || !umgebung_.Zimmerauswahl) return stays.front();
     frmZimmerauswahl form(stays, [this](int zimmer) { return raster_->Zimmername(zimmer); });
     umgebung_.Zimmerauswahl(form);
-    return form.Ergebnis();
+    const auto chosen =
+        std::ranges::find(stays, form.Ergebnis(), [](const auto& stay) { return std::optional(stay.ID); });
+    return chosen == stays.end() ? std::nullopt : std::optional(*chosen);
 }
 
 void frmMain::Kontext_Click(std::string_view name) {
@@ -171,7 +161,8 @@ void frmMain::Beschriftung_Ändern(Planbeschriftung was) {
     ungestört([&] {
         auto text =
             was == Planbeschriftung::Belegungsrahmen ? optBelArt.Caption : raster_->Einstellungen().Zimmerspalte;
-        if (!frageBezeichnung(text) || !umgebung_.Beschriften(was, text)) return;
+        if (!frageBezeichnung(text)) return;
+        umgebung_.Beschriften(was, text);
         if (was == Planbeschriftung::Belegungsrahmen)
             optBelArt.Caption = text;
         else

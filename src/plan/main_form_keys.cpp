@@ -4,14 +4,6 @@
 
 namespace plan {
 
-namespace {
-
-const Navigation& Taste(std::string_view name) {
-    return *std::ranges::find(Navigationsleiste, name, &Navigation::Name);
-}
-
-} // namespace
-
 bool frmMain::KeyDown(Plantaste taste, Umschalt umschalt) {
     if (offen_ > 0) return false;
     if (taste == Plantaste::Esc) return brichAb();
@@ -54,7 +46,8 @@ void frmMain::bewegeCursor(Plantaste taste) {
     if (AuswahlAktiv()) brichAb();
     auto& [zeile, spalte] = *cursor_;
     if (taste == Plantaste::Links) --spalte;
-    if (taste == Plantaste::Rechts && ++spalte > raster_->AnzahlTage()) Navigation_Click(Taste("cmdNextDay"));
+    if (taste == Plantaste::Rechts && ++spalte > raster_->AnzahlTage())
+        Navigation_Click(Navigationsknopf("cmdNextDay"));
     // At the edge of the rooms the plan scrolls; the waiting row lies behind the last room, the header before the
     // first.
     if (taste == Plantaste::Auf) {
@@ -77,7 +70,7 @@ void frmMain::zieheAuswahl(Plantaste taste) {
     if (!AuswahlAktiv()) {
         MouseDown(cursor_->Zeile, cursor_->Spalte);
         if (!AuswahlAktiv()) return;
-        if (cursor_->Spalte == raster_->AnzahlTage()) Navigation_Click(Taste("cmdNextDay"));
+        if (cursor_->Spalte == raster_->AnzahlTage()) Navigation_Click(Navigationsknopf("cmdNextDay"));
     }
     if (taste == Plantaste::Links) cursor_->Spalte = std::max(cursor_->Spalte - 1, 1);
     if (taste == Plantaste::Rechts) cursor_->Spalte = std::min(cursor_->Spalte + 1, raster_->AnzahlTage());

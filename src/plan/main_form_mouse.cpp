@@ -10,13 +10,7 @@ using basic::Format;
 
 namespace {
 
-/// Nobody has said yet whether the stay is paid.
-constexpr std::string_view Unbekannt = "inaktiv";
 constexpr Farbe kBezahltgrün = 0x80FF80;
-
-const Navigation& EinTagWeiter() {
-    return *std::ranges::find(Navigationsleiste, std::string_view("cmdNextDay"), &Navigation::Name);
-}
 
 std::string Kürzeltext(const tplZelle& zelle) {
     return zelle.Kuerzel + (zelle.Checked ? "/CH/" : "/") + std::to_string(zelle.Gaeste);
@@ -173,7 +167,7 @@ bool frmMain::verlängere(int spalte, Wirkung& wirkung) {
     wirkung = std::max(wirkung, Wirkung::Auswahl);
     if (!zeichnung_.extendTo(spalte)) return false;
     if (spalte == raster_->AnzahlTage()) {
-        Navigation_Click(EinTagWeiter()); // the plan goes on under the drawn stay
+        Navigation_Click(Navigationsknopf("cmdNextDay")); // the plan goes on under the drawn stay
         wirkung = Wirkung::Plan;
     }
     return true;

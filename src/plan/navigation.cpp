@@ -2,7 +2,16 @@
 
 #include "platform/basic/dates.h"
 
+#include <algorithm>
+#include <cassert>
+
 namespace plan {
+
+const Navigation& Navigationsknopf(std::string_view name) {
+    const auto* knopf = std::ranges::find(Navigationsleiste, name, &Navigation::Name);
+    assert(knopf != Navigationsleiste.end());
+    return *knopf;
+}
 
 basic::Date StandardStart(basic::Date heute) { return heute - 2; }
 

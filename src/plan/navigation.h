@@ -33,6 +33,9 @@ inline constexpr std::array<Navigation, 10> Navigationsleiste = {{
      Navigation::Art::Bleiben},
 }};
 
+/// There must be a button of this name.
+[[nodiscard]] const Navigation& Navigationsknopf(std::string_view name);
+
 /// The first date of the plan when it opens and after "Heute".
 [[nodiscard]] basic::Date StandardStart(basic::Date heute);
 

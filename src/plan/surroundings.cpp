@@ -72,18 +72,16 @@ void startWebProgram(GlobalState& g) {
 }
 
 /// The same word heads the list's column, which has a record of its own.
-bool storeCaption(GlobalState& g, Planbeschriftung was, const std::string& text) {
+void storeCaption(GlobalState& g, Planbeschriftung was, const std::string& text) {
     const bool frame = was == Planbeschriftung::Belegungsrahmen;
-    return basic::quietly([&] {
-        start::SatzSchreiben(g.dbHaupt, "Beschriftungen", {{frame ? "F1" : "F2", text}});
-        start::SatzSchreiben(g.dbHaupt, "Spaltenbeschriftung", {{frame ? "F8" : "F11", text}});
-        auto& e = g.einstellungen;
-        const auto keep = [&](std::vector<std::string>& list, std::size_t place) {
-            if (place < list.size()) list[place] = text;
-        };
-        keep(e.Beschriftungen, frame ? 0 : 1);
-        keep(e.Spaltenbeschriftung, frame ? 7 : 10);
-    });
+    start::SatzSchreiben(g.dbHaupt, "Beschriftungen", {{frame ? "F1" : "F2", text}});
+    start::SatzSchreiben(g.dbHaupt, "Spaltenbeschriftung", {{frame ? "F8" : "F11", text}});
+    auto& e = g.einstellungen;
+    const auto keep = [&](std::vector<std::string>& list, std::size_t place) {
+        if (place < list.size()) list[place] = text;
+    };
+    keep(e.Beschriftungen, frame ? 0 : 1);
+    keep(e.Spaltenbeschriftung, frame ? 7 : 10);
 }
 
 bool checkOffers(GlobalState& g, const std::function<void()>& geändert) {
@@ -111,7 +109,7 @@ Umgebung UmgebungAus(GlobalState& g, const Close& close) {
     };
     u.Internet = [&g] { startWebProgram(g); };
     u.AngebotePrüfen = [&g](const std::function<void()>& geändert) { return checkOffers(g, geändert); };
-    u.Beschriften = [&g](Planbeschriftung was, const std::string& text) { return storeCaption(g, was, text); };
+    u.Beschriften = [&g](Planbeschriftung was, const std::string& text) { storeCaption(g, was, text); };
     u.Aktualisieren = &g.einstellungen.Aktualisieren;
     u.Zeitlogdatei = g.instanz.Datei("Zeitlog.txt");
     u.Waehrung = g.einstellungen.Waehrung;

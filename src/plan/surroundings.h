@@ -35,8 +35,8 @@ struct Umgebung {
     std::function<void()> Internet = {};
     /// Asks about offers past due, before the statistics. False: the user wants to see to them first.
     std::function<bool(const std::function<void()>& geändert)> AngebotePrüfen = {};
-    /// Keeps a new caption of the plan. False when it could not be kept.
-    std::function<bool(Planbeschriftung was, const std::string& text)> Beschriften = {};
+    /// Keeps a new caption of the plan. Raises the engine's errors.
+    std::function<void(Planbeschriftung was, const std::string& text)> Beschriften = {};
     /// Has all of the stay been billed and paid?
     std::function<bool(int id)> istBezahlt = {};
     /// Shows the form until it is closed.

@@ -194,6 +194,24 @@ TEST_F(Context, StayThatBecameAnOfferMeanwhileIsNotCheckedIn) {
     }
 }
 
+TEST_F(Context, WhatTheUserAskedForAndCouldNotBeDoneIsTold) {
+    stay(1, 15, 18);
+    rightClick(1, 16);
+    t.house.db().Close();
+    t.dialogs.acknowledge();
+    t.form().Kontext_Click("mnuCheckIn");
+    EXPECT_EQ(t.dialogs.last().style.icon, services::MsgIcon::Exclamation);
+    EXPECT_FALSE(t.dialogs.last().text.empty());
+    t.nichtSchreibbar = true;
+    t.dialogs.type("Wohnung");
+    t.dialogs.acknowledge();
+    t.form().Beschriftung_Ändern(Planbeschriftung::Zimmerspalte);
+    EXPECT_EQ(t.dialogs.last().text, "Datensatz ist momentan gesperrt.");
+    EXPECT_NE(t.raster().Einstellungen().Zimmerspalte, "Wohnung");
+    t.form().MouseMove(1, 3);
+    EXPECT_EQ(t.form().fldDatum.Text, "15.06.26") << "events come in again";
+}
+
 TEST_F(Context, CheckOutLeadsToTheInvoiceWhereThereAreInvoices) {
     const int id = stay(1, 15, 18, 2, true);
     t.windows.vorhanden.insert(Fenster::Rechnungen);

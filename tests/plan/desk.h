@@ -76,6 +76,7 @@ public:
     int neueID = 0;                   ///< what it gives back
     int aktualisieren = 0;            ///< the refresh flag
     std::vector<std::pair<Planbeschriftung, std::string>> beschriftet;
+    bool nichtSchreibbar = false; ///< nothing can be kept
     std::vector<start::Fenster> geöffnet;
     Umgebung mehr = {}; ///< what is not filled in here
 
@@ -89,8 +90,8 @@ private:
         u.Waehrung = "EUR";
         u.öffnen = [this](start::Fenster fenster) { geöffnet.push_back(fenster); };
         u.Beschriften = [this](Planbeschriftung was, const std::string& text) {
+            if (nichtSchreibbar) throw jet::Error(3218, "Datensatz ist momentan gesperrt.");
             beschriftet.emplace_back(was, text);
-            return true;
         };
         return u;
     }

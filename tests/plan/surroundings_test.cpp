@@ -101,19 +101,19 @@ TEST_F(Surroundings, WebProgramIsSearchedOnceAndThenKnown) {
 TEST_F(Surroundings, NewHeadingGoesToThePlanAndToTheListsThatCarryTheSameWord) {
     program.house();
     auto& db = program.g.dbHaupt;
-    EXPECT_FALSE(umgebung().Beschriften(Planbeschriftung::Zimmerspalte, "Wohnung")) << "there are no data files";
+    EXPECT_THROW(umgebung().Beschriften(Planbeschriftung::Zimmerspalte, "Wohnung"), jet::Error) << "no data files";
     db = program.open(program.file("Lokal.mdb"));
     program.g.einstellungen.Beschriftungen = {"Reserviert von:", "Zimmer"};
     start::SatzSchreiben(db, "Spaltenbeschriftung", {{"F7", "Land"}, {"F8", "alt"}, {"F11", "Personen"}});
-    EXPECT_TRUE(umgebung().Beschriften(Planbeschriftung::Belegungsrahmen, "Gebucht"));
-    EXPECT_TRUE(umgebung().Beschriften(Planbeschriftung::Zimmerspalte, "Wohnung"));
+    umgebung().Beschriften(Planbeschriftung::Belegungsrahmen, "Gebucht");
+    umgebung().Beschriften(Planbeschriftung::Zimmerspalte, "Wohnung");
     EXPECT_EQ(start::BeschriftungLesen(db, "F1"), "Gebucht");
     EXPECT_EQ(start::BeschriftungLesen(db, "F2"), "Wohnung");
     EXPECT_EQ(start::FeldLesen(db, "Spaltenbeschriftung", "F7"), basic::Value("Land"));
     EXPECT_EQ(start::FeldLesen(db, "Spaltenbeschriftung", "F8"), basic::Value("Gebucht"));
     EXPECT_EQ(start::FeldLesen(db, "Spaltenbeschriftung", "F11"), basic::Value("Wohnung"));
     EXPECT_EQ(program.g.einstellungen.Beschriftungen.at(1), "Wohnung");
-    EXPECT_FALSE(umgebung().Beschriften(Planbeschriftung::Zimmerspalte, std::string(300, 'x')))
+    EXPECT_THROW(umgebung().Beschriften(Planbeschriftung::Zimmerspalte, std::string(300, 'x')), jet::Error)
         << "longer than a field";
 }
 
