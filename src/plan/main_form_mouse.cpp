@@ -12,6 +12,9 @@ namespace {
 
 constexpr Farbe kBezahltgrün = 0x80FF80;
 
+/// A full waiting row would tell of more stays than a screen can hold.
+constexpr std::size_t kTippsHöchstens = 6;
+
 std::string Kürzeltext(const tplZelle& zelle) {
     return zelle.Kuerzel + (zelle.Checked ? "/CH/" : "/") + std::to_string(zelle.Gaeste);
 }
@@ -235,14 +238,17 @@ std::string frmMain::ToolTip(int zeile, int spalte) const {
             stays.push_back(std::move(*stay));
     });
     std::string text;
-    for (const auto& stay : stays) {
-        if (!text.empty()) text += "\n\n";
+    for (std::size_t i = 0; i < stays.size() && i < kTippsHöchstens; ++i) {
+        const auto& stay = stays[i];
+        if (i > 0) text += "\n\n";
         text += stay.LastName + (stay.FirstName.empty() ? "" : ", " + stay.FirstName) + "\n" +
                 Format(stay.Von, "ddd dd.mm.yyyy") + " – " + Format(stay.Bis, "ddd dd.mm.yyyy") + "\n" +
                 (zelle.Warteposition ? "Warteposition" : "Zimmer " + raster_->Zimmername(stay.Zimmernummer)) + ", " +
                 std::to_string(stay.AnzahlGäste) + (stay.AnzahlGäste == 1 ? " Gast" : " Gäste") + "\nPreis " +
                 Format(stay.Preis, "#,##0.00") + " " + umgebung_.Waehrung;
     }
+    if (stays.size() > kTippsHöchstens)
+        text += "\n\n… und " + std::to_string(stays.size() - kTippsHöchstens) + " weitere";
     return text;
 }
 

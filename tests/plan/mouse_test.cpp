@@ -179,6 +179,10 @@ TEST(Pointer, BarExplainsItselfWithGuestDaysRoomAndPrice) {
     EXPECT_THAT(t.form().ToolTip(4, 4), testing::AllOf(HasSubstr("Eins\n"), HasSubstr("\n\nZwei\n")));
     for (const auto& [zeile, spalte] : {std::pair{1, 4}, {2, 6}, {0, 4}, {5, 4}, {2, 0}, {2, 15}})
         EXPECT_EQ(t.form().ToolTip(zeile, spalte), "") << zeile << ' ' << spalte;
+    for (int i = 0; i < 30; ++i)
+        t.house.stay({.Von = day(16, 6), .Bis = day(17, 6), .Belegungsart = 2, .Gelöscht = true});
+    t.form().cmdAktualisieren_Click();
+    EXPECT_THAT(t.form().ToolTip(4, 4), testing::AllOf(HasSubstr("Eins\n"), testing::EndsWith("\n\n… und 26 weitere")));
 }
 
 // ---- drawing a new stay ----

@@ -56,6 +56,24 @@ std::optional<Plantaste> planKey(const QKeyEvent& event) {
     return std::nullopt;
 }
 
+/// The frame around the keyboard's cell, on top of all that lies there; seen on every colour.
+class CursorFrame : public QWidget {
+public:
+    explicit CursorFrame(QWidget* parent) : QWidget(parent) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        hide();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setPen(QPen(qt::look::surface, 4));
+        painter.drawRect(rect().adjusted(2, 2, -2, -2));
+        painter.setPen(QPen(qt::look::alert, 2));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+};
+
 /// A tool tip takes a guest's name for markup where it looks like it.
 QString plainToolTip(const QString& text) {
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
@@ -64,7 +82,7 @@ QString plainToolTip(const QString& text) {
 } // namespace
 
 PlanWidget::PlanWidget(const Planraster& grid, QWidget* parent)
-    : QWidget(parent), grid_(grid), shortName_(new QLabel(this)) {
+    : QWidget(parent), grid_(grid), shortName_(new QLabel(this)), cursorFrame_(new CursorFrame(this)) {
     setObjectName(QStringLiteral("plan"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -90,6 +108,7 @@ PlanWidget::PlanWidget(const Planraster& grid, QWidget* parent)
 void PlanWidget::refresh() {
     rooms_ = grid_.SUBSetLabels(grid_.ErsteZeile());
     places_ = PlanGeometry(grid_, size(), measure());
+    placeCursor();
     update();
 }
 
@@ -116,16 +135,12 @@ QSize PlanWidget::minimumSizeHint() const { return {480, 220}; }
 void PlanWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     PlanPainter(painter, grid_, places_, event->rect()).paint(rooms_);
-    if (!cursor_) return;
-    // Seen on every colour of a cell.
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(qt::look::surface, 4));
-    painter.drawRect(cursorRect().adjusted(2, 2, -2, -2));
-    painter.setPen(QPen(qt::look::alert, 2));
-    painter.drawRect(cursorRect().adjusted(1, 1, -1, -1));
 }
 
-void PlanWidget::resizeEvent(QResizeEvent* event) { places_ = PlanGeometry(grid_, event->size(), places_.widths()); }
+void PlanWidget::resizeEvent(QResizeEvent* event) {
+    places_ = PlanGeometry(grid_, event->size(), places_.widths());
+    placeCursor();
+}
 
 void PlanWidget::mouseMoveEvent(QMouseEvent* event) {
     const auto point = event->position().toPoint();
@@ -202,10 +217,14 @@ QRect PlanWidget::cursorRect() const {
 }
 
 void PlanWidget::showCursor(const std::optional<Zellcursor>& cursor) {
-    if (cursor == cursor_) return;
-    update(cursorRect());
     cursor_ = cursor;
-    update(cursorRect());
+    placeCursor();
+}
+
+void PlanWidget::placeCursor() {
+    cursorFrame_->setGeometry(cursorRect());
+    cursorFrame_->setVisible(cursor_.has_value());
+    cursorFrame_->raise();
 }
 
 void PlanWidget::showShortName(const QString& text, int line, int column) {

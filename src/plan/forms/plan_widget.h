@@ -78,6 +78,7 @@ protected:
 private:
     [[nodiscard]] Spaltenmasse measure() const;
     void loseButton();
+    void placeCursor();
     [[nodiscard]] QString toolTipAt(const QPoint& point) const;
     [[nodiscard]] QString roomToolTip(const PlanHit& hit, const QPoint& point) const;
     [[nodiscard]] QRect rectOf(const Platz& place) const;
@@ -86,6 +87,7 @@ private:
     PlanGeometry places_;
     std::vector<Zimmerbeschriftung> rooms_;
     QLabel* shortName_;
+    QWidget* cursorFrame_;
     QTimer rest_;
     QTimer hold_;
     Platz selection_;

@@ -3,6 +3,7 @@
 #include "plan/forms/plan_painter.h"
 #include "plan/forms/plan_widget.h"
 #include "plan/forms/room_choice_dialog.h"
+#include "platform/qt/look.h"
 
 #include <gtest/gtest.h>
 
@@ -312,6 +313,10 @@ TEST(PlanKeys, CursorIsSeenAndReachesEverything) {
     ASSERT_EQ(w.tisch.anfragen.size(), 1U);
     EXPECT_EQ(w.tisch.anfragen[0].Bis, day(16, 6));
     w.key(Qt::Key_Down);
+    ASSERT_TRUE(w.find<QLabel>("lblKürzel").isVisible());
+    const auto image = w.plan().grab().toImage();
+    const auto frame = w.plan().cursorRect();
+    EXPECT_EQ(image.pixelColor(frame.left() + 1, frame.center().y()), qt::look::alert) << "not below the short name";
     w.key(Qt::Key_F10, Qt::ShiftModifier);
     w.choose("mnuReservierungÖffnen");
     ASSERT_EQ(w.tisch.anfragen.size(), 2U);
