@@ -24,11 +24,12 @@ void anhängen(std::string& zeile, const std::string& teil) {
     zeile += teil;
 }
 
-std::string Zeilentext(const std::string& nachname, const std::string& vorname, const std::string& plz,
-                       const std::string& ort) {
-    std::string zeile = nachname;
-    anhängen(zeile, vorname);
-    anhängen(zeile, basic::Trim(plz + " " + ort));
+constexpr std::string_view Spalten = "SELECT ID, LastName, FirstName, PostalCode, City FROM Address ";
+
+std::string Zeilentext(const jet::Recordset& rows) {
+    std::string zeile = einzeilig(rows.At(1));
+    anhängen(zeile, einzeilig(rows.At(2)));
+    anhängen(zeile, basic::Trim(einzeilig(rows.At(3)) + " " + einzeilig(rows.At(4))));
     return zeile;
 }
 
@@ -39,13 +40,11 @@ std::string gefaltet(std::string_view text) {
 } // namespace
 
 void Adressliste::einlesen() const {
-    jet::Recordset rows = db_->OpenRecordset("SELECT ID, LastName, FirstName, PostalCode, City FROM Address "
-                                             "ORDER BY LastName, FirstName, City",
-                                             jet::RecordsetType::Snapshot);
+    jet::Recordset rows =
+        db_->OpenRecordset(std::string(Spalten) + "ORDER BY LastName, FirstName, City", jet::RecordsetType::Snapshot);
     einträge_.reserve(static_cast<std::size_t>(rows.RecordCount()));
     for (; !rows.Eof(); rows.MoveNext()) {
-        std::string zeile =
-            Zeilentext(einzeilig(rows.At(1)), einzeilig(rows.At(2)), einzeilig(rows.At(3)), einzeilig(rows.At(4)));
+        std::string zeile = Zeilentext(rows);
         if (zeile.empty()) continue;
         std::string suchtext = gefaltet(zeile);
         einträge_.push_back({rows.At(0).longOr(), std::move(zeile), std::move(suchtext), einträge_.size()});
@@ -55,8 +54,21 @@ void Adressliste::einlesen() const {
     });
 }
 
+/// Who stores an address marks it with the time; a deleted one is missing in the count.
+std::string Adressliste::tabellenstand() const {
+    return basic::quietly(std::string(), [this] {
+        const jet::Recordset rows = db_->OpenRecordset(
+            "SELECT Count(ID) & '/' & Max(ID) & '/' & Max(WannGeändert) FROM Address", jet::RecordsetType::Snapshot);
+        return rows.At(0).textOr();
+    });
+}
+
 void Adressliste::lesen() const {
-    if (gelesen_) return;
+    if (gelesen_ && !nachsehen_) return;
+    std::string stand = tabellenstand();
+    nachsehen_ = false;
+    if (gelesen_ && stand == stand_) return;
+    stand_ = std::move(stand);
     einträge_.clear();
     gelesen_ = basic::quietly([this] { einlesen(); });
 }
@@ -79,9 +91,9 @@ std::vector<services::Match> Adressliste::matches(std::string_view typed, std::s
 }
 
 std::string Adressliste::Zeile(std::int64_t id) const {
-    lesen();
-    const auto platz = std::ranges::find(einträge_, id, &Eintrag::ID);
-    return platz == einträge_.end() ? std::string() : platz->Zeile;
+    const jet::Recordset rows =
+        db_->OpenRecordset(std::string(Spalten) + "WHERE ID = " + std::to_string(id), jet::RecordsetType::Snapshot);
+    return rows.Eof() ? std::string() : Zeilentext(rows);
 }
 
 std::size_t Adressliste::Anzahl() const {

@@ -19,9 +19,12 @@ public:
 
     /// The next need reads anew.
     void veraltet() { gelesen_ = false; }
+    /// Another station may have stored addresses: the next need reads anew where the table is not as it was.
+    void nachsehen() { nachsehen_ = true; }
     /// Begins of last names, case ignored; a text with a comma matches the whole line. An empty text begins them all.
     [[nodiscard]] std::vector<services::Match> matches(std::string_view typed, std::size_t limit) const override;
-    /// The line of an address; empty when it is not in the list.
+    /// The line of an address as the table has it now; empty when it has no name, or there is no such row. Raises the
+    /// engine's errors.
     [[nodiscard]] std::string Zeile(std::int64_t id) const;
     [[nodiscard]] std::size_t Anzahl() const;
 
@@ -34,10 +37,13 @@ private:
     };
     void lesen() const;
     void einlesen() const;
+    [[nodiscard]] std::string tabellenstand() const;
 
     jet::Database* db_;
     mutable std::vector<Eintrag> einträge_; ///< by Suchtext, so that one beginning is one stretch
+    mutable std::string stand_;             ///< of the table when it was read
     mutable bool gelesen_ = false;
+    mutable bool nachsehen_ = false;
 };
 
 } // namespace addresses

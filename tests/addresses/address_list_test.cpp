@@ -39,8 +39,31 @@ TEST(AddressList, ShowsWhatAnAddressHas) {
     EXPECT_EQ(lines(neu, "ot"), "Otto") << "an address without a last name can still be found";
     EXPECT_EQ(neu.Anzahl(), 4U) << "one without any name cannot";
     house.guest({.LastName = "Später"});
+    EXPECT_EQ(neu.Zeile(house.guest({.LastName = "Eben"})), "Eben") << "a single one is always as it is now";
     neu.veraltet();
     EXPECT_EQ(lines(neu, "sp"), "Später");
+}
+
+TEST(AddressList, LooksForWhatOtherStationsHaveStored) {
+    TestHouse house;
+    const auto gast = std::to_string(house.guest({.LastName = "Alt"}));
+    Adressliste liste(house.db());
+    EXPECT_EQ(lines(liste, "a"), "Alt");
+    struct Case {
+        std::string statement;
+        const char* found;
+    };
+    for (const Case& c :
+         {Case{"INSERT INTO Address (LastName) VALUES ('Anders')", "Alt | Anders"},
+          {"UPDATE Address SET LastName = 'Aalt', WannGeändert = Now() WHERE ID = " + gast, "Aalt | Anders"},
+          {"DELETE * FROM Address WHERE ID = " + gast, "Anders"},
+          {"DELETE * FROM Address", ""}}) {
+        const std::string vorher = lines(liste, "a");
+        house.db().Execute(c.statement);
+        EXPECT_EQ(lines(liste, "a"), vorher) << "one reading holds until somebody asks";
+        liste.nachsehen();
+        EXPECT_EQ(lines(liste, "a"), c.found) << c.statement;
+    }
 }
 
 TEST(AddressList, MatchesBeginningsWithoutRegardToCase) {
