@@ -46,7 +46,8 @@ std::vector<tplVorgabe> VorgabeZimmerEinlesen(jet::Database& db) {
     std::vector<tplVorgabe> vorgaben;
     auto rs = db.OpenRecordset("select * from tbzimmernummern order by zimmernummer ;");
     for (; !rs.Eof(); rs.MoveNext())
-        vorgaben.push_back({.Preisdefault = rs.Fields("Preisdefault").Value().doubleOr(0),
+        vorgaben.push_back({.Zimmernummer = static_cast<int>(rs.Fields("Zimmernummer").Value().longOr(0)),
+                            .Preisdefault = rs.Fields("Preisdefault").Value().doubleOr(0),
                             .AnzahlGästeDefault = static_cast<int>(rs.Fields("AnzahlGästeDefault").Value().longOr(0))});
     return vorgaben;
 }

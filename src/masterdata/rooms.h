@@ -27,6 +27,7 @@ struct tplZimmer {
 
 /// What a new reservation of a room row starts with; 0 for Null.
 struct tplVorgabe {
+    int Zimmernummer = 0;
     double Preisdefault = 0;
     int AnzahlGästeDefault = 0;
 };

@@ -18,7 +18,7 @@ namespace reservations {
 /// What the form reaches on higher floors. A function that is not handed in: the answer is "unknown", or nothing
 /// happens.
 struct Formulardienste {
-    addresses::Adressliste& adressen;        ///< read once per run
+    addresses::Adressliste& adressen;        ///< looks for what others stored, once in a form's life
     std::function<void()> planNeuLaden = {}; ///< after each save and delete
     std::function<std::optional<bool>(int id)> bezahlt = {};
     /// Adapts the meal posts of the stored stay.
@@ -249,6 +249,7 @@ private:
     void zimmerlisteFüllen();
     void zimmerAuswählen(int nummer);
     void zimmerGewechselt();
+    [[nodiscard]] std::optional<masterdata::tplVorgabe> vorgabe(int nummer) const;
     void preisAusZimmer(int nummer);
     void datumGeändert();
     void prüfdatumNachziehen();

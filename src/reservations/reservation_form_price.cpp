@@ -44,7 +44,8 @@ void frmReservierung::subSetPreis() {
     if (!datum(fldVon) || !datum(fldBis) || !preis) return;
     subSetNächte();
     setzeTarif(basic::Format(*preis, Preisformat));
-    if (*preis != 0) fldPreis.Text = basic::Format(basic::Val(fldResTage.Text) * *preis, Preisformat);
+    // Times the amount that is shown and stored, so that the total is what a guest reckons.
+    if (*preis != 0) fldPreis.Text = basic::Format(basic::Val(fldResTage.Text) * tarif(), Preisformat);
 }
 
 void frmReservierung::chFix_Click() {
@@ -106,13 +107,9 @@ void frmReservierung::saisonpreisErkennen() {
 }
 
 void frmReservierung::saisonpreisAus() {
-    const int nummer = Zimmernummer();
-    const auto zimmer = std::ranges::find(zimmer_, nummer, &masterdata::tplZimmer::Zimmernummer);
-    const auto vorgaben = masterdata::VorgabeZimmerEinlesen(g_.dbHaupt);
-    const auto platz = static_cast<std::size_t>(zimmer - zimmer_.begin());
-    const bool bekannt = nummer != 0 && platz < vorgaben.size();
-    setzeTarif(bekannt ? basic::Format(vorgaben[platz].Preisdefault, "##,##0.00") : "0,00");
-    bekannt ? subSetPreis() : void(fldPreis.Text = "0,00");
+    const auto zimmer = vorgabe(Zimmernummer());
+    setzeTarif(zimmer ? basic::Format(zimmer->Preisdefault, "##,##0.00") : "0,00");
+    zimmer ? subSetPreis() : void(fldPreis.Text = "0,00");
     setzeSaisonpreis(false);
 }
 

@@ -100,6 +100,7 @@ void frmReservierung::zimmerAuswählen(int nummer) {
 }
 
 void frmReservierung::zimmerGewechselt() {
+    knöpfeBeschriften(); // an unknown name and none at all are the same room, but not the same captions
     const int nummer = Zimmernummer();
     if (nummer == letztesZimmer_) return;
     letztesZimmer_ = nummer;
@@ -107,19 +108,23 @@ void frmReservierung::zimmerGewechselt() {
     Feld_Change();
     if (nummer != 0) basic::quietly([&] { preisAusZimmer(nummer); });
     warnen();
-    knöpfeBeschriften();
+}
+
+/// As the table has them now: another station may have added or removed a room.
+std::optional<masterdata::tplVorgabe> frmReservierung::vorgabe(int nummer) const {
+    const auto vorgaben = masterdata::VorgabeZimmerEinlesen(g_.dbHaupt);
+    const auto gefunden = std::ranges::find(vorgaben, nummer, &masterdata::tplVorgabe::Zimmernummer);
+    return nummer == 0 || gefunden == vorgaben.end() ? std::nullopt : std::optional(*gefunden);
 }
 
 /// A new stay takes the number of guests with any room; the rest of the block only while it is not fixed.
 void frmReservierung::preisAusZimmer(int nummer) {
     if (chFix.Value && !stand_.NeueReservierung) return;
-    const auto platz = std::ranges::find(zimmer_, nummer, &masterdata::tplZimmer::Zimmernummer) - zimmer_.begin();
-    const auto vorgaben = masterdata::VorgabeZimmerEinlesen(g_.dbHaupt);
-    if (static_cast<std::size_t>(platz) >= vorgaben.size()) return;
-    const auto& vorgabe = vorgaben[static_cast<std::size_t>(platz)];
-    fldAnzahlG_ste.Text = std::to_string(vorgabe.AnzahlGästeDefault);
+    const auto zimmer = vorgabe(nummer);
+    if (!zimmer) return;
+    fldAnzahlG_ste.Text = std::to_string(zimmer->AnzahlGästeDefault);
     if (chFix.Value) return;
-    setzeTarif(basic::Format(vorgabe.Preisdefault, "##,##0.00"));
+    setzeTarif(basic::Format(zimmer->Preisdefault, "##,##0.00"));
     subSetPreis();
     setzeSaisonpreis(false);
 }
@@ -186,6 +191,8 @@ void frmReservierung::datumGeändert() {
     const auto bis = datum(fldBis);
     // While a year is typed the departure may lie in the past for a moment.
     if (von && bis && *von <= *bis && tarif() != 0) subSetPreis();
+    // A price of the season belongs to its days: with others it stands there as a flat price.
+    if (tarif() == 0) saisonpreisErkennen();
     warnen();
 }
 

@@ -141,6 +141,12 @@ TEST_F(ReservationStay, TheTypeSaysTheGuestsUnlessFixedAndNamesTheButtons) {
     form.cboArt.choose(form.cboArt.Items.indexOf("angebot"));
     form.cboArt_Click();
     EXPECT_EQ(form.cmdBestVorschau.Caption + form.cmdRechnung.Caption, "Angebot (ein&f.)&Angebot");
+    form.cboArt.choose(0);
+    form.cboArt_Click();
+    for (const auto& [name, caption] : {std::pair{"unbekannt", "Bestätigung/ &Rechnung"}, {"", "&Angebot"}}) {
+        zimmer(form, name); // both are no room
+        EXPECT_EQ(form.cmdRechnung.Caption, caption) << name;
+    }
 }
 
 // Price
@@ -168,6 +174,9 @@ TEST_F(ReservationStay, APriceIsWrittenOutOrKeepsTheFocus) {
     form.cboTarif.Text = "70";
     EXPECT_EQ(form.cboTarif_LostFocus(), Leave::Go);
     EXPECT_EQ(form.cboTarif.Text + " " + form.fldPreis.Text, "70,00 210,00");
+    form.cboTarif.Text = "33,335"; // the total is reckoned from the amount that is shown
+    EXPECT_EQ(form.cboTarif_LostFocus(), Leave::Go);
+    EXPECT_EQ(form.cboTarif.Text + " " + form.fldPreis.Text, "33,34 100,02");
     form.cboTarif.Text = "";
     form.subSetPreis();
     EXPECT_EQ(form.fldPreis.Text, "0,00");
@@ -185,6 +194,11 @@ TEST_F(ReservationStay, TheSeasonPriceIsSetRecognisedAndTakenBack) {
     EXPECT_EQ(form.cmdSaisonpreis.BackColor, look::Aktiv);
     form.cmdReservieren_Click();
     EXPECT_EQ(feld("PreisProNacht", form.ID()), Value(0.0));
+    for (const auto& [key, gleich] : {std::pair{Key::Plus, false}, {Key::Minus, true}}) {
+        form.fldBis_KeyDown(key); // the price belongs to its days
+        EXPECT_EQ(form.istSaisonpreis(), gleich);
+        EXPECT_EQ(form.fldPreis.Text, "320,00");
+    }
 
     frmReservierung wieder = öffnen(form.ID());
     EXPECT_TRUE(wieder.istSaisonpreis());
