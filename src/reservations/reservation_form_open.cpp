@@ -48,6 +48,7 @@ frmReservierung::frmReservierung(start::GlobalState& g, Formulardienste dienste,
 int frmReservierung::ID() const { return static_cast<int>(basic::Val(fldID.Text)); }
 
 void frmReservierung::listenFüllen() {
+    dienste_.adressen.nachsehen(); // other stations store guests too
     for (const Belegart& art : BelegartenLesen(g_.dbHaupt))
         cboArt.Items.AddItem(art.Name, art.BelegungsID);
     tarifeFüllen();
@@ -126,7 +127,9 @@ void frmReservierung::zuPlatz(std::size_t platz) {
     try {
         platzZeigen(platz);
     } catch (const basic::Error& fehler) {
+        // Half of the fields show one stay and half the other: nothing of that may be stored.
         ablehnen(fehler.text());
+        geschlossen_ = true;
     }
 }
 
@@ -155,6 +158,7 @@ bool frmReservierung::laden(int id) {
     fldID.Text = std::to_string(id);
     abrechnung_ = gespeichert_.Abgerechnet ? Abrechnungsstand::Abgerechnet : Abrechnungsstand::Offen;
     adresse.zeigen(gespeichert_.GastID);
+    gespeichert_.GastID = adresse.GastID(); // a guest who is gone is nobody's change
     aufenthaltZeigen(gespeichert_);
     restZeigen(gespeichert_);
     ständeZeigen();

@@ -36,6 +36,7 @@ bool frmReservierung::Reserv() {
     try {
         return speicherlauf();
     } catch (const basic::Error& fehler) {
+        änderung_ = true; // the row may be written and what belongs to it not
         return ablehnen(fehler.text());
     }
 }
@@ -53,6 +54,7 @@ void frmReservierung::tageTauschen() {
     if (!von || !bis || *von <= *bis) return;
     std::swap(fldVon.Text, fldBis.Text);
     prüfdatumNachziehen();
+    if (tarif() != 0) subSetPreis();
 }
 
 bool frmReservierung::pflichtfelderDa() {
@@ -173,7 +175,7 @@ void frmReservierung::überschneidungMelden() {
         ablehnen("Es liegt eine Überschneidung mit anderer Reservierung vor. Bitte korrigieren Sie Zimmernummer oder "
                  "Zeiten.");
     if (!block_ && abrechnung_ == Abrechnungsstand::Offen) cmdWarten.Enabled = true;
-    cmdL_schen.Enabled = false;
+    if (stand_.NeueReservierung) cmdL_schen.Enabled = false;
     fldZimmer.SetFocus();
     stand_.MeldungGezeigt = true;
 }
@@ -187,7 +189,7 @@ Reservierung frmReservierung::ausFeldern() const {
     r.Von = datum(fldVon);
     r.Bis = datum(fldBis);
     r.GastID = adresse.GastID();
-    r.IDAdressRechnung = leer(cboAdrRechnung.Text) ? 0 : cboAdrRechnung.Chosen;
+    r.IDAdressRechnung = cboAdrRechnung.Chosen; // also of an address without any name to show
     if (cboArt.ListIndex >= 0) r.Belegungsart = static_cast<int>(cboArt.Items.ItemData(cboArt.ListIndex));
     r.VerpflegungAusweisen = chNichtAnlegen.Value;
     r.Wäsche1 = ganzzahl(fldW_sche1.Text);
@@ -281,8 +283,10 @@ void frmReservierung::zurücknehmen() {
     fldID.Text.clear();
     gespeichert_.ID = 0;
     stand_.NeueReservierung = true;
-    änderung_ = true;
     cmdL_schen.Enabled = false;
+    zeigeBlock();
+    zeigeAbrechnung();
+    Feld_Change();
     ablehnen("Es sind Konflikte im Netzwerkbetrieb aufgetreten: Folgende Reservierung konnte nicht angelegt werden.\n"
              "Reservierung vom " +
              fldVon.Text + "bis " + fldBis.Text + ",Zimmer Nr.:" + zimmername());

@@ -1,3 +1,4 @@
+#include "platform/basic/convert.h"
 #include "platform/basic/format.h"
 #include "platform/basic/quietly.h"
 #include "platform/basic/text.h"
@@ -78,7 +79,10 @@ bool frmReservierung::checkOut() {
 }
 
 void frmReservierung::lbChecked_Click() {
-    if (angebotAbgelehnt()) return;
+    if (angebotAbgelehnt()) {
+        prüfdatumNachziehen();
+        return;
+    }
     try {
         if (!(checked_ ? checkOut() : checkIn())) return;
     } catch (const basic::Error& fehler) {
@@ -86,7 +90,8 @@ void frmReservierung::lbChecked_Click() {
         return;
     }
     subSetNächte();
-    if (tarif() != 0) subSetPreis();
+    // Days in the wrong order get their price when the save puts them right.
+    if (tarif() != 0 && basic::Val(fldResTage.Text) >= 0) subSetPreis();
     überschneidungPrüfen();
 }
 

@@ -31,6 +31,7 @@ TEST_F(ReservationStates, AnOfferAndAStayWithoutARoomAreNotCheckedIn) {
     EXPECT_THAT(gefragt(), ElementsAre("Bitte ändern Sie zunächst das Feld Belegungsart.",
                                        "Bitte ändern Sie zunächst das Feld Zimmer."));
     EXPECT_FALSE(imHaus(id) || form.istEingecheckt());
+    EXPECT_EQ(form.fldCheckDatum.Text, form.fldVon.Text); // a plain click later moves no date to today
 }
 
 TEST_F(ReservationStates, AStayOfNoNightsDoesNotComeOutOfACheck) {
@@ -89,9 +90,11 @@ TEST_F(ReservationStates, ACheckOutBeforeTheArrivalIsPutInOrderByTheSave) {
     house.db().Execute("UPDATE tblBelegung SET Checked = True");
     frmReservierung form = öffnen(id);
     form.cmdHeute_Click();
+    EXPECT_EQ(form.fldPreis.Text, "240,00"); // never below nothing
     form.cmdReservieren_Click();
     EXPECT_EQ(feld("Von", id), Value(day(15, 6)));
     EXPECT_EQ(feld("Bis", id), Value(day(20, 6)));
+    EXPECT_EQ(feld("Preis", id), Value(400.0));
 }
 
 TEST_F(ReservationStates, ANewStayKeepsItsCheckUntilItIsStored) {
