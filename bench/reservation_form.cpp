@@ -75,8 +75,7 @@ void oursSave(benchmark::State& state, BenchHouse& house, Desk& desk, int& next)
 /// The same reads and writes by hand.
 struct PlainSave {
     explicit PlainSave(BenchHouse& house)
-        : connection(&house.plain),
-          name(plain::prepare(house.plain, R"(SELECT "ID" FROM "tblBelegung" WHERE "Kürzel" = ?1)")),
+        : name(plain::prepare(house.plain, R"(SELECT "ID" FROM "tblBelegung" WHERE "Kürzel" = ?1)")),
           overlap(plain::prepare(
               house.plain,
               R"(SELECT "ID" FROM "tblBelegung" WHERE "Zimmernummer" = ?1 AND "Gelöscht" = 0 AND ("Von" >= ?2 AND "Von" <= ?3
@@ -118,7 +117,6 @@ private:
         require(plain::fetch(overlap.get(), id).count() == own, "the room is taken");
     }
 
-    const plain::Connection* connection;
     plain::Statement name, overlap, insert, guest, use, remove;
 };
 
