@@ -42,7 +42,9 @@ void release(QWidget& widget, QPoint at, Qt::MouseButton button) {
 
 void click(QWidget& widget, QPoint at, Qt::MouseButton button) {
     EXPECT_TRUE(widget.isVisible() && widget.isEnabled()) << widget.objectName().toStdString();
-    QTest::mouseClick(handleOf(widget), button, Qt::NoModifier, inWindow(widget, at));
+    press(widget, at, button);
+    // What the press has opened may have seen the button go up.
+    if (QGuiApplication::mouseButtons().testFlag(button)) release(widget, at, button);
 }
 
 void click(QWidget& widget) { click(widget, widget.rect().center()); }
@@ -91,6 +93,12 @@ namespace {
 /// A window is looked for once in a millisecond at most, so that this is enough for any machine.
 constexpr int patience = 10'000;
 
+/// A button that opened the window by its press is up before the user has seen it.
+void letGo(QWidget& window) {
+    for (const auto button : {Qt::LeftButton, Qt::RightButton})
+        if (QGuiApplication::mouseButtons().testFlag(button)) hand::release(window, {1, 1}, button);
+}
+
 void closeLeftOpen(QWidget& window) {
     if (auto* dialog = qobject_cast<QDialog*>(&window))
         dialog->done(QDialog::Rejected);
@@ -134,6 +142,7 @@ void InWindow::look() {
     if (found == nullptr) return;
     acting_ = true;
     EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == found; })) << name_.toStdString();
+    letGo(*found);
     act_(*found);
     done_ = true;
     if (found == nullptr || !found->isVisible()) return;

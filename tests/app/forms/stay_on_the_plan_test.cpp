@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -111,6 +112,30 @@ TEST(StayOnThePlan, GoesInAndOutAndAwayByItsMenu) {
     EXPECT_EQ(h.house.count("tblBelegung"), 0);
     EXPECT_EQ(h.desk.stay(2, 18), 0);
     EXPECT_EQ(h.desk.picture(2, 18), before);
+}
+
+TEST(StayOnThePlan, OneOfTwoInTheSameRoomIsChosenFirst) {
+    ScriptedHouse h;
+    h.stay(2, 17, 20);
+    h.stay(2, 18, 21);
+    h.desk.open();
+    InWindow given("frmZimmerauswahl", [](QWidget& window) { hand::key(window, Qt::Key_Escape); });
+    hand::click(h.desk.widget(), h.desk.at(2, 19), Qt::RightButton);
+    given.wait();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+
+    InWindow chosen("frmZimmerauswahl", [](QWidget& window) {
+        auto& list = find<QListWidget>(window, "lstReservierungen");
+        hand::click(*list.viewport(), list.visualItemRect(list.item(1)).center());
+        press(window, "cmdAuswählen");
+    });
+    InWindow opened(form, [](QWidget& window) {
+        EXPECT_EQ(find<QLineEdit>(window, "fldVon").text(), QStringLiteral("18.06.2026"));
+        hand::key(window, Qt::Key_Escape);
+    });
+    h.desk.chooseOn(2, 19, "&Reservierung öffnen");
+    chosen.wait();
+    opened.wait();
 }
 
 TEST(StayOnThePlan, OnlyTheFrontWindowTakesTheMouse) {
