@@ -24,8 +24,8 @@ using support::day;
 constexpr auto form = "frmReservierung";
 constexpr auto guest = 1;
 
-/// Ticks of the timer after which a refresh has come due at least twice.
-constexpr int manyMinutes = 12;
+/// Ticks of the timer of which at least one refreshes.
+constexpr int someMinutes = 6;
 
 bool save(support::Workstation& station, addresses::Adressliste& guests, const std::string& line) {
     std::istringstream words(line);
@@ -83,7 +83,7 @@ TEST_F(TwoDesks, StayOfTheOtherComesUnderAHalfDrawnOne) {
     desk.chooseType("optBelArt2");
     desk.draw(1, 20, 22);
     otherSaves(5, 17, 19);
-    desk.minutes(manyMinutes);
+    desk.minutes(someMinutes);
     EXPECT_GT(desk.stay(3, 17), 0);
     EXPECT_EQ(desk.plan->grid().ErsteZeile(), 3);
     EXPECT_EQ(scrollBar().value(), 2);
@@ -136,7 +136,7 @@ TEST_F(TwoDesks, RoomThatTheOtherTookMeanwhileIsNotGivenTwice) {
 
 TEST_F(TwoDesks, StayThatTheOtherDeletedIsNotOpened) {
     otherSaves(2, 17, 20);
-    desk.minutes(manyMinutes);
+    desk.minutes(someMinutes);
     ASSERT_GT(desk.stay(2, 18), 0);
     other->channel().say(deleteAll);
     ASSERT_EQ(other->channel().hear(), "deleted");
@@ -147,11 +147,11 @@ TEST_F(TwoDesks, StayThatTheOtherDeletedIsNotOpened) {
 
 TEST_F(TwoDesks, TimedRefreshWaitsForTheFormAndComesAfterIt) {
     otherSaves(1, 14, 16);
-    desk.minutes(manyMinutes);
+    desk.minutes(someMinutes);
     const int first = desk.stay(1, 15);
     InWindow opened(form, [&](QWidget& window) {
         otherSaves(3, 17, 19);
-        desk.minutes(manyMinutes);
+        desk.minutes(someMinutes);
         EXPECT_EQ(desk.stay(3, 17), 0);
         EXPECT_EQ(desk.stay(1, 15), first);
         hand::key(window, Qt::Key_Escape);
@@ -169,7 +169,7 @@ TEST(TimedRefresh, WaitsForABoxAndFollowsAtItsEnd) {
     desk.open();
     InWindow told("QMessageBox", [&](QWidget& box) {
         house.stay({.Zimmernummer = 2, .Von = day(17, 6), .Bis = day(19, 6)});
-        desk.minutes(manyMinutes);
+        desk.minutes(someMinutes);
         EXPECT_EQ(desk.stay(2, 17), 0);
         hand::click(*dynamic_cast<QMessageBox&>(box).button(QMessageBox::Ok));
     });
