@@ -46,8 +46,9 @@ void frmReservierung::setzeKürzel(const std::string& text) {
 }
 
 void frmReservierung::kürzelPrüfen() {
-    kürzelVergeben_ = basic::Len(fldK_rzel.Text) >= 1 &&
-                      basic::quietly(false, [&] { return KürzelVergeben(g_.dbHaupt, fldK_rzel.Text, ID()); });
+    const std::string kürzel = basic::Trim(fldK_rzel.Text); // as a changed row stores it
+    kürzelVergeben_ =
+        !kürzel.empty() && basic::quietly(false, [&] { return KürzelVergeben(g_.dbHaupt, kürzel, ID()); });
     fldK_rzel.BackColor = warnfarbe(kürzelVergeben_);
 }
 

@@ -253,7 +253,7 @@ TEST_F(ReservationStay, AShortNameIsTestedWhileItIsTyped) {
         const char* text;
         bool vergeben;
     };
-    for (const Case& c : {Case{"o'neill", true}, {"O'Neil", false}, {"", false}}) {
+    for (const Case& c : {Case{"o'neill", true}, {"O'Neill ", true}, {"O'Neil", false}, {" ", false}, {"", false}}) {
         form.fldK_rzel.Text = c.text;
         form.fldK_rzel_Change();
         EXPECT_EQ(form.istKürzelVergeben(), c.vergeben) << c.text;
