@@ -50,7 +50,7 @@ struct LoadedPlan {
     std::string failure = {};                     ///< why there is no window though everything else is loaded
 };
 
-/// Reads the settings, builds the window and asks about the offers past due; they are moved whatever stands open.
+/// Reads the settings, builds the window and asks about the offers past due. The window shows what became of them.
 [[nodiscard]] LoadedPlan loadPlan(start::GlobalState& g);
 
 enum class Next { LoadAgain, End };

@@ -58,15 +58,17 @@ const plan::Zellbild& FrontDesk::look(int line, int dayOfJune) const {
     return plan->grid().Bild(cell(line, dayOfJune));
 }
 
-void FrontDesk::chooseType(const char* button) { hand::click(find<QRadioButton>(plan->window(), button), {8, 8}); }
+void FrontDesk::chooseType(const char* button) const {
+    hand::click(find<QRadioButton>(plan->window(), button), {8, 8});
+}
 
-void FrontDesk::draw(int line, int from, int to) {
+void FrontDesk::draw(int line, int from, int to) const {
     hand::press(widget(), at(line, from));
     for (int day = from + 1; day <= to; ++day)
         hand::moveTo(widget(), at(line, day));
 }
 
-void FrontDesk::chooseOn(int line, int dayOfJune, const char* text) {
+void FrontDesk::chooseOn(int line, int dayOfJune, const char* text) const {
     hand::click(widget(), at(line, dayOfJune), Qt::RightButton);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr) << text;
@@ -76,6 +78,6 @@ void FrontDesk::chooseOn(int line, int dayOfJune, const char* text) {
     menu->close();
 }
 
-void FrontDesk::minutes(int count) { hand::runTimer(find<QTimer>(plan->window(), "TimerAktualisieren"), count); }
+void FrontDesk::minutes(int count) const { hand::runTimer(find<QTimer>(plan->window(), "TimerAktualisieren"), count); }
 
 } // namespace app

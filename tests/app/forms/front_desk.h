@@ -51,14 +51,14 @@ public:
 
     // The user
 
-    void chooseType(const char* button);
+    void chooseType(const char* button) const;
     /// Presses on the first day and goes to the last one, with the button held.
-    void draw(int line, int from, int to);
+    void draw(int line, int from, int to) const;
     void release(int line, int dayOfJune) const { hand::release(widget(), at(line, dayOfJune)); }
     /// The right button on a cell, then the entry with this text.
-    void chooseOn(int line, int dayOfJune, const char* text);
+    void chooseOn(int line, int dayOfJune, const char* text) const;
     /// The timer of the plan comes due this often.
-    void minutes(int count);
+    void minutes(int count) const;
 
     QtWindows windows;
     start::GlobalState g;

@@ -69,7 +69,7 @@ protected:
         other->channel().say(std::to_string(room) + " " + std::to_string(from) + " " + std::to_string(to));
         ASSERT_EQ(other->channel().hear(), "saved");
     }
-    [[nodiscard]] QScrollBar& scrollBar() { return find<QScrollBar>(desk.plan->window(), "scrollBar"); }
+    [[nodiscard]] QScrollBar& scrollBar() const { return find<QScrollBar>(desk.plan->window(), "scrollBar"); }
 
     support::TestHouse house;
     support::TempFolder folder{support::TempFolder::Place::Memory};
