@@ -95,7 +95,7 @@ bool frmReservierung::ganzzahlPasst(services::TextBox& box, std::string_view nam
 }
 
 bool frmReservierung::zahlenPassen() {
-    if (!ganzzahlPasst(fldAnzahlG_ste, "Gäste") || !ganzzahlPasst(txtAnz_Kinder, "Kinder") ||
+    if (!ganzzahlPasst(fldAnzahlG_ste, "Erwachsene") || !ganzzahlPasst(txtAnz_Kinder, "Kinder") ||
         !ganzzahlPasst(fldW_sche1, lbW_sche1.Caption) || !ganzzahlPasst(fldW_sche2, lbW_sche2.Caption))
         return false;
     if (basic::Val(fldResTage.Text) > Höchstzahl)

@@ -41,7 +41,7 @@ TEST_F(ReservationSave, EveryRefusalIsToldAndNeitherWritesNorLosesAnything) {
              f.cboArt.choose(f.cboArt.Items.indexOf("Angebot"));
              f.fldVon.Text = "14.06.2026";
          }},
-        {"Bitte geben Sie im Feld 'Gäste' eine ganze Zahl von 0 bis 32767 ein.",
+        {"Bitte geben Sie im Feld 'Erwachsene' eine ganze Zahl von 0 bis 32767 ein.",
          [](frmReservierung& f) { f.fldAnzahlG_ste.Text = "32768"; }},
         {"Bitte geben Sie im Feld 'Kinder' eine ganze Zahl von 0 bis 32767 ein.",
          [](frmReservierung& f) { f.txtAnz_Kinder.Text = "-1"; }},

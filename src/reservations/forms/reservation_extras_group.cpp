@@ -29,7 +29,7 @@ qt::Card billing(qt::FormParts& parts, frmReservierung& form) {
                         {.change = [&form] { form.txtBeNummer_eigen_Change(); },
                          .leave = [&form] { return form.txtBeNummer_eigen_LostFocus(); },
                          .doubleClick = [&form] { form.txtBeNummer_eigen_DblClick(); }}));
-    addField(card, 1, 2, QStringLiteral("vom"),
+    addField(card, 1, 2, QStringLiteral("Reserviert am"),
              parts.text("txtResDatum", form.txtResDatum, plainEvents(form, form.txtResDatum)));
     addField(card, 2, 0, QStringLiteral("Erfasst von"), parts.text("txtWE", form.txtWE, plainEvents(form, form.txtWE)));
     addField(card, 2, 2, QStringLiteral("geändert von"),

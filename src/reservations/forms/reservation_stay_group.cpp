@@ -98,7 +98,7 @@ QWidget* stayGroup(qt::FormParts& parts, frmReservierung& form) {
 
 QWidget* priceGroup(qt::FormParts& parts, frmReservierung& form) {
     const qt::Card card = qt::makeCard(QStringLiteral("Preis"), &parts.window());
-    addField(card, 0, 0, QStringLiteral("Pro Nacht"),
+    addField(card, 0, 0, QStringLiteral("Einzelpreis"),
              parts.combo("cboTarif", form.cboTarif,
                          {.change = [&form] { form.cboTarif_Change(); },
                           .click = [&form] { form.cboTarif_Change(); },
@@ -108,7 +108,7 @@ QWidget* priceGroup(qt::FormParts& parts, frmReservierung& form) {
         "fldPreis", form.fldPreis,
         {.change = [&form] { form.fldPreis_Change(); }, .leave = [&form] { return form.fldPreis_LostFocus(); }});
     total->setAlignment(Qt::AlignRight);
-    addField(card, 0, 2, QStringLiteral("Gesamt"), total);
+    addField(card, 0, 2, QStringLiteral("Gesamtpreis"), total);
     auto* season = parts.button("cmdSaisonpreis", form.cmdSaisonpreis, [&form] { form.cmdSaisonpreis_Click(); });
     auto* fixed = parts.check("chFix", form.chFix, [&form] { form.chFix_Click(); });
     card.grid->addLayout(qt::inRow({season, nullptr, fixed}), 1, 1, 1, 3);
