@@ -121,6 +121,20 @@ TEST_F(Surroundings, OffersPastDueAreSeenToBeforeTheStatistics) {
     program.house();
     program.g.dbHaupt = program.open(program.file("Lokal.mdb"));
     EXPECT_TRUE(umgebung().AngebotePrüfen({})) << "there are none";
+    auto& db = program.g.dbHaupt;
+    db.Execute("INSERT INTO tbBelegArten (BelegungsID, BelegungsArt) VALUES (4, 'Angebot')");
+    db.Execute("INSERT INTO tblBelegung (Zimmernummer, Von, Bis, Belegungsart, Gelöscht) VALUES (1, #06-14-2026#, "
+               "#06-17-2026#, 4, False)");
+    int changed = 0;
+    const auto goesOn = [&](services::MsgResult answer) {
+        program.dialogs.press(answer);
+        return umgebung().AngebotePrüfen([&] { ++changed; });
+    };
+    EXPECT_FALSE(goesOn(services::MsgResult::No)) << "the user sees to them first";
+    EXPECT_EQ(changed, 0);
+    EXPECT_TRUE(goesOn(services::MsgResult::Yes));
+    EXPECT_EQ(changed, 1);
+    EXPECT_TRUE(umgebung().AngebotePrüfen({})) << "they wait now";
     program.g.dbHaupt.Close();
     EXPECT_TRUE(umgebung().AngebotePrüfen({})) << "what cannot be asked keeps nobody from the statistics";
 }
