@@ -98,7 +98,7 @@ QLabel* FormParts::label(const char* name, services::Label& control, QWidget* bu
 }
 
 QWidget* FormParts::options(const char* name, services::OptionGroup& control, std::function<void(int)> click,
-                            KeyProcedure key) {
+                            const KeyProcedure& key) {
     auto* frame = new QWidget(&window_);
     frame->setObjectName(qt::text(name));
     auto* row = new QHBoxLayout(frame);
@@ -111,7 +111,7 @@ QWidget* FormParts::options(const char* name, services::OptionGroup& control, st
         row->addWidget(option);
         tabs_.append(option);
     }
-    binding_.bind(*group, control, std::move(click), std::move(key));
+    binding_.bind(*group, control, std::move(click), key);
     return frame;
 }
 

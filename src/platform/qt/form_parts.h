@@ -38,7 +38,7 @@ public:
     QLabel* label(const char* name, services::Label& control, QWidget* buddy = nullptr);
     /// A frame with an option button for each one of the control.
     QWidget* options(const char* name, services::OptionGroup& control, std::function<void(int)> click,
-                     KeyProcedure key);
+                     const KeyProcedure& key);
 
     /// Lets the Tab key follow the order of the making.
     void orderTabs() const;
