@@ -9,7 +9,8 @@ namespace plan {
 
 /// The log of the mouse handling, `Zeitlog.txt`: a block of stages with their times for each press and each cell that
 /// the pointer comes to. Kept in memory and appended to the file when much has come together and at the end, so that
-/// it costs the mouse no time. A full file (8 MB) is set aside as `Zeitlog.txt.alt`. An error is not reported.
+/// it costs the mouse no time. The file has no limit of size; whoever wants it smaller deletes it. An error is not
+/// reported.
 class Zeitlog {
 public:
     /// Without a file nothing is kept. The clock must outlive the log.

@@ -512,21 +512,6 @@ TEST_F(Log, IsAppendedToAndWrittenWhenMuchHasComeTogether) {
     EXPECT_THAT(content(), testing::StartsWith("früher\n  \nMouse  \n10:30:00  Tag eingetragen  \n"));
 }
 
-TEST_F(Log, FullFileIsSetAsideOnce) {
-    for (const char* text : {"erste", "zweite"}) {
-        std::ofstream(file) << text;
-        std::filesystem::resize_file(file, std::uintmax_t{8} * 1024 * 1024);
-        Zeitlog log(file, t.house.clock());
-        log.Kopf();
-        log.flush();
-        log.Stufe("Tag eingetragen  ");
-    }
-    EXPECT_EQ(content(), "  \nMouse  \n10:30:00  Tag eingetragen  \n");
-    std::string old(6, ' ');
-    std::ifstream(file + ".alt").read(old.data(), 6);
-    EXPECT_EQ(old, "zweite");
-}
-
 TEST_F(Log, FileThatCannotBeWrittenIsNoError) {
     Zeitlog log(t.house.file("fehlt/Zeitlog.txt"), t.house.clock());
     log.Kopf();
