@@ -252,6 +252,7 @@ private:
     [[nodiscard]] std::optional<masterdata::tplVorgabe> vorgabe(int nummer) const;
     void preisAusZimmer(int nummer);
     void datumGeändert();
+    void preisFolgtDenTagen();
     void prüfdatumNachziehen();
     bool tagVerschieben(services::TextBox& box, services::Key key);
     services::Leave datumVerlassen(services::TextBox& box);

@@ -54,7 +54,7 @@ void frmReservierung::tageTauschen() {
     if (!von || !bis || *von <= *bis) return;
     std::swap(fldVon.Text, fldBis.Text);
     prüfdatumNachziehen();
-    if (tarif() != 0) subSetPreis();
+    preisFolgtDenTagen();
 }
 
 bool frmReservierung::pflichtfelderDa() {

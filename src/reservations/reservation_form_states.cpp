@@ -1,4 +1,3 @@
-#include "platform/basic/convert.h"
 #include "platform/basic/format.h"
 #include "platform/basic/quietly.h"
 #include "platform/basic/text.h"
@@ -90,8 +89,7 @@ void frmReservierung::lbChecked_Click() {
         return;
     }
     subSetNächte();
-    // Days in the wrong order get their price when the save puts them right.
-    if (tarif() != 0 && basic::Val(fldResTage.Text) >= 0) subSetPreis();
+    preisFolgtDenTagen();
     überschneidungPrüfen();
 }
 

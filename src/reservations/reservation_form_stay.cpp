@@ -187,13 +187,17 @@ void frmReservierung::datumGeändert() {
     Feld_Change();
     subSetNächte();
     prüfdatumNachziehen();
+    preisFolgtDenTagen();
+    warnen();
+}
+
+void frmReservierung::preisFolgtDenTagen() {
     const auto von = datum(fldVon);
     const auto bis = datum(fldBis);
-    // While a year is typed the departure may lie in the past for a moment.
+    // While a year is typed, and after a check-out before the arrival, the days are in the wrong order until the save.
     if (von && bis && *von <= *bis && tarif() != 0) subSetPreis();
     // A price of the season belongs to its days: with others it stands there as a flat price.
     if (tarif() == 0) saisonpreisErkennen();
-    warnen();
 }
 
 /// A plain check-in or check-out changes no date, so it follows what is typed.

@@ -97,6 +97,18 @@ TEST_F(ReservationStates, ACheckOutBeforeTheArrivalIsPutInOrderByTheSave) {
     EXPECT_EQ(feld("Preis", id), Value(400.0));
 }
 
+TEST_F(ReservationStates, AnEarlierArrivalIsNoSeasonPriceAnyMore) {
+    house.db().Execute("UPDATE tbZimmernummern SET PreisHauptsaison = 120 WHERE Zimmernummer = 2");
+    house.season({.Saisonbezeichnung = "Hauptsaison", .Start = day(1, 6), .Ende = day(30, 6)});
+    const int id = gespeichert(20, 23);
+    house.db().Execute("UPDATE tblBelegung SET PreisProNacht = 0, Preis = 360");
+    frmReservierung form = öffnen(id);
+    EXPECT_TRUE(form.istSaisonpreis());
+    form.cmdHeute_Click();
+    EXPECT_EQ(form.fldResTage.Text + " " + form.fldPreis.Text, "8 360,00");
+    EXPECT_FALSE(form.istSaisonpreis());
+}
+
 TEST_F(ReservationStates, ANewStayKeepsItsCheckUntilItIsStored) {
     frmReservierung form = neu(16, 18);
     form.lbChecked_Click();
