@@ -200,6 +200,10 @@ void registerReads(BenchHouse& house, Desk& desk, RatioTable& table) {
         const auto found = desk.guests.matches(i % 2 == 0 ? "mü" : "Mü", 30);
         require(found.size() == 30, "too few matches");
     });
+    registerAlone(table, "guest box, first key in a form", "10 ms", [&desk](int) {
+        desk.guests.nachsehen();
+        benchmark::DoNotOptimize(desk.guests.matches("m", 30));
+    });
     registerAlone(table, "guest list read anew", "", [&desk](int) {
         desk.guests.veraltet();
         benchmark::DoNotOptimize(desk.guests.Anzahl());
