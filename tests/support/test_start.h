@@ -22,25 +22,37 @@ struct OneUser final : services::User {
     [[nodiscard]] std::string NameDesUsers() const override { return "rezeption"; }
 };
 
-/// A workstation that is about to start: a program folder, settings that no start has written yet, and a user whose
-/// answers the test scripts. Its clock stands at 15.06.2026 10:30.
-struct TestStart {
-    TempFolder ordner{TempFolder::Place::Memory};
-    ScriptedDialogs dialogs;
+/// What a run needs besides its files. Its clock stands at 15.06.2026 10:30.
+template <typename TestDialogs>
+struct TestRun {
+    explicit TestRun(std::string programmordner)
+        : g{.dialogs = dialogs,
+            .settings = settings,
+            .shell = shell,
+            .user = user,
+            .clock = clock,
+            .windows = windows,
+            .wsHaupt = workspace,
+            .instanz = {0, std::move(programmordner)}} {}
+
+    TestDialogs dialogs;
     ScriptedWindows windows;
     services::MemorySettings settings;
     NoShell shell;
     OneUser user;
     services::FixedClock clock{basic::Date::fromYmdHms(2026, 6, 15, 10, 30, 0)};
     jet::Workspace workspace{clock};
-    start::GlobalState g{.dialogs = dialogs,
-                         .settings = settings,
-                         .shell = shell,
-                         .user = user,
-                         .clock = clock,
-                         .windows = windows,
-                         .wsHaupt = workspace,
-                         .instanz = {0, ordner.path().string()}};
+    start::GlobalState g;
+};
+
+struct OwnFolder {
+    TempFolder ordner{TempFolder::Place::Memory};
+};
+
+/// A workstation that is about to start: a program folder, settings that no start has written yet, and a user whose
+/// answers the test scripts.
+struct TestStart : OwnFolder, TestRun<ScriptedDialogs> {
+    TestStart() : TestRun(ordner.path().string()) {}
 
     [[nodiscard]] std::string file(std::string_view name) const { return ordner.file(name); }
     [[nodiscard]] std::string setting(const std::string& key) const {

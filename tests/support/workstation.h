@@ -33,29 +33,12 @@ public:
 };
 
 /// One of several workstations of a house: a program folder and a link file of its own, the house's files elsewhere.
-struct Workstation {
+struct Workstation : TestRun<AgreeingDialogs> {
     /// In a folder of its own; `linkFile` is the house's, which no process may have open while it is copied.
-    Workstation(const TempFolder& folder, const std::string& linkFile) : ordner(folder.path().string()) {
+    Workstation(const TempFolder& folder, const std::string& linkFile) : TestRun(folder.path().string()) {
         std::filesystem::copy_file(linkFile, folder.file("Lokal.mdb"));
         g.dbHaupt = workspace.OpenDatabase(folder.file("Lokal.mdb"), false, false, store::openConnect());
     }
-
-    std::string ordner;
-    AgreeingDialogs dialogs;
-    ScriptedWindows windows;
-    services::MemorySettings settings;
-    NoShell shell;
-    OneUser user;
-    services::FixedClock clock{basic::Date::fromYmdHms(2026, 6, 15, 10, 30, 0)};
-    jet::Workspace workspace{clock};
-    start::GlobalState g{.dialogs = dialogs,
-                         .settings = settings,
-                         .shell = shell,
-                         .user = user,
-                         .clock = clock,
-                         .windows = windows,
-                         .wsHaupt = workspace,
-                         .instanz = {0, ordner}};
 };
 
 } // namespace support
