@@ -21,6 +21,8 @@ public:
     void veraltet() { gelesen_ = false; }
     /// Another station may have stored addresses: the next need reads anew where the table is not as it was.
     void nachsehen() { nachsehen_ = true; }
+    /// Does at once what the next need would have to, so that the first key that is typed finds the list ready.
+    void prepare() const { lesen(); }
     /// Begins of last names, case ignored; a text with a comma matches the whole line. An empty text begins them all.
     [[nodiscard]] std::vector<services::Match> matches(std::string_view typed, std::size_t limit) const override;
     /// The line of an address as the table has it now; empty when it has no name, or there is no such row. Raises the

@@ -64,6 +64,7 @@ void frmReservierung::neuÖffnen(const start::ReservierungAnfrage& anfrage) {
     caption_ = "Neue Reservierung";
     stand_.NeueReservierung = true;
     adresse.leeren();
+    dienste_.adressen.prepare(); // a guest will be typed
     datenAusAnfrage(anfrage);
     vorgabenSetzen(anfrage.Art);
     ständeZeigen();

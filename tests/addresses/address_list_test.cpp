@@ -66,6 +66,16 @@ TEST(AddressList, LooksForWhatOtherStationsHaveStored) {
     }
 }
 
+TEST(AddressList, APreparedListReadsNothingAtTheFirstKey) {
+    TestHouse house;
+    house.guest({.LastName = "Meier"});
+    Adressliste liste(house.db());
+    liste.nachsehen();
+    liste.prepare();
+    house.guest({.LastName = "Meiser"});
+    EXPECT_EQ(lines(liste, "mei"), "Meier");
+}
+
 TEST(AddressList, MatchesBeginningsWithoutRegardToCase) {
     TestHouse house;
     for (const char* name : {"Müller", "MÜLLERBURG", "Muller",
