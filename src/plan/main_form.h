@@ -66,8 +66,6 @@ public:
     /// The pointer is here. Asks the data files once for each cell that it comes to. An error of the engine ends it
     /// without a message.
     Wirkung MouseMove(int zeile, int spalte, Maustaste taste = Maustaste::Keine);
-    /// The pointer has left the plan.
-    Wirkung MouseLeave() { return MouseMove(0, 0); }
     /// The pointer rests with its button held: at the last column the plan goes on under the drawn stay.
     Wirkung MouseHold();
     /// The pointer has rested for a moment: asks whether the stay below it is paid, which takes longer.

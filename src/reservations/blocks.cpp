@@ -38,14 +38,6 @@ bool istBlockmitgliedMitKürzel(jet::Database& db, std::string_view kürzel) {
                              jet::sqlText(alsMuster(kürzel)) + ")); ");
 }
 
-int Blocknummer(jet::Database& db, int id) {
-    auto rs = db.OpenRecordset("SELECT tbBlockbuchung.IDBelegung, tbBlockbuchung.IDBlockbuchung  From tbBlockbuchung  "
-                               "Where (((tbBlockbuchung.IDBelegung) = " +
-                                   std::to_string(id) + "));",
-                               jet::RecordsetType::Snapshot);
-    return rs.Eof() ? 0 : static_cast<int>(rs.Fields("IDBlockbuchung").Value().longOr());
-}
-
 void FixÜbernehmen(jet::Database& db, int id, bool fix) {
     auto rs = db.OpenRecordset("SELECT tbBlockbuchung.IDBlockbuchung FROM tbBlockbuchung  INNER JOIN tblBelegung ON "
                                "tbBlockbuchung.IDBelegung = tblBelegung.ID  WHERE (((tblBelegung.ID)=" +

@@ -11,8 +11,6 @@ namespace reservations {
 [[nodiscard]] bool istBlockmitglied(jet::Database& db, int id);
 /// Does any stay of this short name (case ignored) stand in a block?
 [[nodiscard]] bool istBlockmitgliedMitKürzel(jet::Database& db, std::string_view kürzel);
-/// Number of the stay's block; 0: none.
-[[nodiscard]] int Blocknummer(jet::Database& db, int id);
 /// Sets `Fix` of all members of the stay's block; nothing happens when it has none.
 void FixÜbernehmen(jet::Database& db, int id, bool fix);
 /// Takes the stay out of its block.

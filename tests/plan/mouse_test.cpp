@@ -33,7 +33,7 @@ TEST(Pointer, TellsTheStayBelowItInTheHelpLine) {
     EXPECT_EQ(t.form().lblHilfe.Caption, "");
     EXPECT_EQ(t.form().txtIDBelegung, 0);
     t.form().MouseMove(2, Tisch::spalte(17));
-    t.form().MouseLeave();
+    t.form().MouseMove(0, 0);
     EXPECT_EQ(t.form().lblHilfe.Caption + t.form().fldDatum.Text, "");
 }
 

@@ -45,8 +45,6 @@ TEST_F(Blocks, MembersAreKnownByNumberAndByName) {
     EXPECT_TRUE(istBlockmitgliedMitKürzel(house.db(), "VEREIN12_05-15_05"));
     EXPECT_FALSE(istBlockmitgliedMitKürzel(house.db(), "Fremd10_06-15_06"));
     EXPECT_FALSE(istBlockmitgliedMitKürzel(house.db(), ""));
-    EXPECT_EQ(Blocknummer(house.db(), zweiter), 5);
-    EXPECT_EQ(Blocknummer(house.db(), fremder), 0);
 }
 
 TEST_F(Blocks, ANameMeansItselfWhateverSignsItHas) {

@@ -88,6 +88,12 @@ QPushButton* FormParts::button(const char* name, services::Button& control, Proc
     return button;
 }
 
+QPushButton* FormParts::button(QHBoxLayout& row, const char* name, services::Button& control, Procedure click) {
+    auto* last = button(name, control, std::move(click));
+    row.addWidget(last);
+    return last;
+}
+
 QLabel* FormParts::label(const char* name, services::Label& control, QWidget* buddy) {
     auto* label = new QLabel(&window_);
     label->setObjectName(qt::text(name));

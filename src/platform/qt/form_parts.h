@@ -35,6 +35,8 @@ public:
     QComboBox* combo(const char* name, services::ComboBox& control, ChoiceEvents events);
     QCheckBox* check(const char* name, services::CheckBox& control, Procedure click, KeyProcedure key = {});
     QPushButton* button(const char* name, services::Button& control, Procedure click);
+    /// The same at the end of a row.
+    QPushButton* button(QHBoxLayout& row, const char* name, services::Button& control, Procedure click);
     QLabel* label(const char* name, services::Label& control, QWidget* buddy = nullptr);
     /// A frame with an option button for each one of the control.
     QWidget* options(const char* name, services::OptionGroup& control, std::function<void(int)> click,

@@ -191,16 +191,11 @@ void CollisionDialog::addRow(QGridLayout& grid, int line) {
 QBoxLayout* CollisionDialog::buttons() {
     auto* line = new QHBoxLayout;
     qt::FormParts parts(*this, binding_);
-    const auto add = [&](const char* name, services::Button& control, qt::Procedure click) {
-        auto* button = parts.button(name, control, std::move(click));
-        line->addWidget(button);
-        return button;
-    };
-    add("cmdOK", form_->cmdOK, [this] { form_->cmdOK_Click(); })->setDefault(true);
+    parts.button(*line, "cmdOK", form_->cmdOK, [this] { form_->cmdOK_Click(); })->setDefault(true);
     line->addStretch();
-    add("cmdÄndern", form_->cmdÄndern, [this] { form_->cmdÄndern_Click(); });
-    add("cmdAbbrechen", form_->cmdAbbrechen, [this] { form_->cmdAbbrechen_Click(); });
-    add("cmdWarten", form_->cmdWarten, [this] { form_->cmdWarten_Click(); });
+    parts.button(*line, "cmdÄndern", form_->cmdÄndern, [this] { form_->cmdÄndern_Click(); });
+    parts.button(*line, "cmdAbbrechen", form_->cmdAbbrechen, [this] { form_->cmdAbbrechen_Click(); });
+    parts.button(*line, "cmdWarten", form_->cmdWarten, [this] { form_->cmdWarten_Click(); });
     return line;
 }
 

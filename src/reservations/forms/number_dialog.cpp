@@ -88,13 +88,8 @@ QLayout* NumberDialog::addButtons() {
     line->setSpacing(10);
     line->addStretch();
     qt::FormParts parts(*this, binding_);
-    const auto add = [&](const char* name, services::Button& control, qt::Procedure click) {
-        auto* button = parts.button(name, control, std::move(click));
-        line->addWidget(button);
-        return button;
-    };
-    add("cmdSpeichern", form_->cmdSpeichern, [this] { form_->cmdSpeichern_Click(); })->setDefault(true);
-    add("cmdZu", form_->cmdZu, [this] { reject(); });
+    parts.button(*line, "cmdSpeichern", form_->cmdSpeichern, [this] { form_->cmdSpeichern_Click(); })->setDefault(true);
+    parts.button(*line, "cmdZu", form_->cmdZu, [this] { reject(); });
     return line;
 }
 

@@ -82,16 +82,11 @@ QLayout* SeasonDialog::addButtons() {
     auto* line = new QHBoxLayout;
     line->setSpacing(10);
     qt::FormParts parts(*this, binding_);
-    const auto add = [&](const char* name, services::Button& control, qt::Procedure click) {
-        auto* button = parts.button(name, control, std::move(click));
-        line->addWidget(button);
-        return button;
-    };
-    add("cmdNeu", form_->cmdNeu, [this] { form_->cmdNeu_Click(); });
-    add("cmdL_schen", form_->cmdL_schen, [this] { form_->cmdL_schen_Click(); });
+    parts.button(*line, "cmdNeu", form_->cmdNeu, [this] { form_->cmdNeu_Click(); });
+    parts.button(*line, "cmdL_schen", form_->cmdL_schen, [this] { form_->cmdL_schen_Click(); });
     line->addStretch();
-    add("cmdSpeichern", form_->cmdSpeichern, [this] { form_->cmdSpeichern_Click(); })->setDefault(true);
-    add("cmdZu", form_->cmdZu, [this] { reject(); });
+    parts.button(*line, "cmdSpeichern", form_->cmdSpeichern, [this] { form_->cmdSpeichern_Click(); })->setDefault(true);
+    parts.button(*line, "cmdZu", form_->cmdZu, [this] { reject(); });
     return line;
 }
 

@@ -60,13 +60,8 @@ void SeasonPricesDialog::addButtons(QGridLayout& grid) {
     line->setSpacing(10);
     line->addStretch();
     qt::FormParts parts(*this, binding_);
-    const auto add = [&](const char* name, services::Button& control, qt::Procedure click) {
-        auto* button = parts.button(name, control, std::move(click));
-        line->addWidget(button);
-        return button;
-    };
-    add("cmdSpeichern", form_->cmdSpeichern, [this] { form_->cmdSpeichern_Click(); })->setDefault(true);
-    add("cmdZu", form_->cmdZu, [this] { reject(); });
+    parts.button(*line, "cmdSpeichern", form_->cmdSpeichern, [this] { form_->cmdSpeichern_Click(); })->setDefault(true);
+    parts.button(*line, "cmdZu", form_->cmdZu, [this] { reject(); });
     grid.setRowMinimumHeight(grid.rowCount(), 8);
     grid.addLayout(line, grid.rowCount(), 0, 1, 2);
 }
